@@ -1,0 +1,29 @@
+# How every target of the project is compiled.
+
+# The flags that all share: C++20 without extensions, the warnings, and the sanitizers asked for.
+function(qv_compile_options target)
+  target_compile_features(${target} PUBLIC cxx_std_20)
+  set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF)
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+                         $<$<BOOL:${QV_COMMONS_WARNINGS_AS_ERRORS}>:-Werror>)
+  if(QV_COMMONS_SANITIZE)
+    target_compile_options(${target} PRIVATE -fsanitize=${QV_COMMONS_SANITIZE}
+                           -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(${target} PUBLIC -fsanitize=${QV_COMMONS_SANITIZE})
+  endif()
+  if(QV_COMMONS_COVERAGE)
+    target_compile_options(${target} PRIVATE --coverage)
+    target_link_options(${target} PUBLIC --coverage)
+  endif()
+endfunction()
+
+# A library of the project: target `name`, alias qv_commons::<export>.
+function(qv_add_library name export)
+  add_library(${name} STATIC)
+  add_library(qv_commons::${export} ALIAS ${name})
+  set_target_properties(${name} PROPERTIES EXPORT_NAME ${export} POSITION_INDEPENDENT_CODE ON)
+  target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
+                                            $<INSTALL_INTERFACE:include>)
+  qv_compile_options(${name})
+  set_property(GLOBAL APPEND PROPERTY QV_COMMONS_LIBRARIES ${name})
+endfunction()

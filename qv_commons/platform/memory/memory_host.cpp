@@ -1,0 +1,57 @@
+#include "qv_commons/platform/memory/memory_host.h"
+
+namespace qv_commons::memory {
+
+InfoDictionaryValue MemoryBundle::objectForInfoDictionaryKey(std::string_view key) const {
+  record_.add(name_, ".objectForInfoDictionaryKey ", key);
+  const auto found = info.find(key);
+  return found == info.end() ? InfoDictionaryValue() : found->second;
+}
+
+std::optional<std::string> MemoryBundle::bundleIdentifier() const {
+  record_.add(name_, ".bundleIdentifier");
+  return identifier;
+}
+
+std::optional<FileLocation> MemoryBundle::appStoreReceiptURL() const {
+  record_.add(name_, ".appStoreReceiptURL");
+  return receiptLocation;
+}
+
+FileContents MemoryFiles::read(const FileLocation& location) const {
+  record_.add("files.read ", location);
+  const auto found = files.find(location);
+  return found == files.end() ? FileContents{std::nullopt, "no such file"} : found->second;
+}
+
+void MemoryConsole::print(std::string_view line) {
+  record_.add("console.print ", quoted(line));
+  lines.emplace_back(line);
+}
+
+std::string MemoryDevice::systemVersion() const {
+  record_.add("device.systemVersion");
+  return version;
+}
+
+std::string MemoryDevice::localizedModel() const {
+  record_.add("device.localizedModel");
+  return model;
+}
+
+std::vector<std::string> MemoryDevice::preferredLanguages() const {
+  record_.add("languages.preferredLanguages");
+  return languages;
+}
+
+Size MemoryDevice::bounds() const {
+  record_.add("screen.bounds");
+  return screenBounds;
+}
+
+UserInterfaceStyle MemoryDevice::userInterfaceStyle() const {
+  record_.add("screen.userInterfaceStyle");
+  return style;
+}
+
+}  // namespace qv_commons::memory

@@ -1,0 +1,97 @@
+// What the memory adapter answers for the host app and its device: plain values to set.
+//
+//     qv_commons::memory::MemoryPlatform platform;
+//     platform.mainBundle().info["CFBundleDisplayName"] = std::string("Notes");
+//     platform.device().model = "iPad";
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "qv_commons/platform/bundle.h"
+#include "qv_commons/platform/console.h"
+#include "qv_commons/platform/device.h"
+#include "qv_commons/platform/files.h"
+#include "qv_commons/platform/memory/record.h"
+#include "qv_commons/platform/screen.h"
+
+namespace qv_commons::memory {
+
+class MemoryBundle final : public Bundle {
+ public:
+  // `name` stands for the bundle in the record's lines.
+  MemoryBundle(Record& record, std::string name) : record_(record), name_(std::move(name)) {}
+
+  std::map<std::string, InfoDictionaryValue, std::less<>> info;
+  std::optional<std::string> identifier;
+  std::optional<FileLocation> receiptLocation;
+
+  InfoDictionaryValue objectForInfoDictionaryKey(std::string_view key) const override;
+  std::optional<std::string> bundleIdentifier() const override;
+  std::optional<FileLocation> appStoreReceiptURL() const override;
+
+ private:
+  Record& record_;
+  std::string name_;
+};
+
+class MemoryBundles final : public Bundles {
+ public:
+  explicit MemoryBundles(Record& record) : main_(record, "mainBundle") {}
+
+  const Bundle& mainBundle() const override { return main_; }
+  MemoryBundle& main() { return main_; }
+
+ private:
+  MemoryBundle main_;
+};
+
+class MemoryFiles final : public Files {
+ public:
+  explicit MemoryFiles(Record& record) : record_(record) {}
+
+  // By location; a file without bytes can't be read, with its description. A location that is not
+  // here gives "no such file".
+  std::map<FileLocation, FileContents, std::less<>> files;
+
+  FileContents read(const FileLocation& location) const override;
+
+ private:
+  Record& record_;
+};
+
+class MemoryConsole final : public Console {
+ public:
+  explicit MemoryConsole(Record& record) : record_(record) {}
+
+  std::vector<std::string> lines;
+
+  void print(std::string_view line) override;
+
+ private:
+  Record& record_;
+};
+
+class MemoryDevice final : public Device, public Languages, public Screen {
+ public:
+  explicit MemoryDevice(Record& record) : record_(record) {}
+
+  std::string version = "14.4";
+  std::string model = "iPhone";
+  std::vector<std::string> languages = {"en-US"};
+  Size screenBounds = {375, 667};
+  UserInterfaceStyle style = UserInterfaceStyle::light;
+
+  std::string systemVersion() const override;
+  std::string localizedModel() const override;
+  std::vector<std::string> preferredLanguages() const override;
+  Size bounds() const override;
+  UserInterfaceStyle userInterfaceStyle() const override;
+
+ private:
+  Record& record_;
+};
+
+}  // namespace qv_commons::memory

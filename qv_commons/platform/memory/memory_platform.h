@@ -1,0 +1,66 @@
+// A platform in memory, for hosts that test their own code and for the library's own tests:
+// scripted answers, recorded effects, no screen, no file.
+//
+//     qv_commons::memory::MemoryPlatform platform;
+//     qv_commons::ScopedPlatform scope(platform.platform());
+//     platform.mainBundle().identifier = "com.example.notes";
+//     std::shared_ptr<qv_commons::ViewController> home = platform.makeViewController("home");
+//
+//     qv_commons::QV_SupportHelper::shared().contactSupport(
+//         *home, "support@example.com", "Help", {}, std::nullopt, std::nullopt, {});
+//
+//     auto& composer = *platform.mail().composers().back();
+//     bool addressed = composer.message().toRecipients.front() == "support@example.com";
+//     composer.finish(qv_commons::MailComposeResult::sent);  // the user sends
+//
+// Every operation of every interface is noted in `record()`, in order. One thread at a time.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "qv_commons/platform/memory/memory_host.h"
+#include "qv_commons/platform/memory/memory_mail.h"
+#include "qv_commons/platform/memory/memory_node.h"
+#include "qv_commons/platform/memory/record.h"
+#include "qv_commons/platform/memory/transitions.h"
+#include "qv_commons/platform/platform.h"
+
+namespace qv_commons::memory {
+
+class MemoryPlatform {
+ public:
+  MemoryPlatform();
+  MemoryPlatform(const MemoryPlatform&) = delete;
+  MemoryPlatform& operator=(const MemoryPlatform&) = delete;
+
+  // To be installed: `ScopedPlatform scope(memory.platform())`.
+  const Platform& platform() const { return platform_; }
+
+  Record& record() { return record_; }
+  Transitions& transitions() { return transitions_; }
+
+  MemoryBundle& mainBundle() { return bundles_.main(); }
+  MemoryFiles& files() { return files_; }
+  MemoryConsole& console() { return console_; }
+  MemoryDevice& device() { return device_; }
+  MemoryMail& mail() { return mail_; }
+  MemoryAlerts& alerts() { return alerts_; }
+
+  // A screen of the host's, of that kind; `name` stands for it in the record.
+  std::shared_ptr<ViewController> makeViewController(
+      std::string name, ViewControllerKind kind = ViewControllerKind::plain);
+
+ private:
+  Record record_;
+  Transitions transitions_;
+  MemoryBundles bundles_{record_};
+  MemoryFiles files_{record_};
+  MemoryConsole console_{record_};
+  MemoryDevice device_{record_};
+  MemoryMail mail_{record_, transitions_};
+  MemoryAlerts alerts_{record_, transitions_};
+  Platform platform_;
+};
+
+}  // namespace qv_commons::memory

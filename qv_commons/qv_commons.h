@@ -1,0 +1,6 @@
+// All that is public, for C++ hosts. An app that wants less includes the one header it needs.
+#pragma once
+
+#include "qv_commons/app_info/app_info_helper.h"
+#include "qv_commons/platform/platform.h"
+#include "qv_commons/support/support_helper.h"

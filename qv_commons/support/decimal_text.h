@@ -1,0 +1,35 @@
+// The shortest decimal text of a double that reads back as the same double.
+//
+//     qv_commons::DecimalText width(375);      // width.view() == "375.0"
+//     qv_commons::DecimalText height(1194.5);  // height.view() == "1194.5"
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string_view>
+
+namespace qv_commons {
+
+// Always positional and always with a fraction: whole numbers end in ".0", a minus sign comes
+// first, also for -0.0. Not a number and the infinities give "nan", "inf" and "-inf". Independent
+// of the locale; no allocation; any thread.
+//
+// Written here because floating-point std::to_chars is missing from the C++ library of the oldest
+// system that the library runs on.
+class DecimalText {
+ public:
+  explicit DecimalText(double value) { write(value); }
+
+  std::string_view view() const { return {buffer_.data(), size_}; }
+
+ private:
+  void write(double value);
+  void append(std::string_view text);
+  void appendZeros(std::size_t count);
+
+  // The longest text, of the smallest numbers: "-0.", 323 zeros and 17 digits.
+  std::array<char, 344> buffer_;
+  std::size_t size_ = 0;
+};
+
+}  // namespace qv_commons

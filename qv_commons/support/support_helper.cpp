@@ -1,0 +1,96 @@
+#include "qv_commons/support/support_helper.h"
+
+#include <utility>
+
+#include "qv_commons/app_info/app_info.h"
+#include "qv_commons/platform/platform.h"
+#include "qv_commons/support/support_mail.h"
+
+namespace qv_commons {
+namespace {
+
+void presentCannotSendAlert(Alerts& alerts, ViewController& viewController) {
+  std::shared_ptr<AlertController> alert = alerts.makeAlertController(
+      "Error", "Please configure your email account in the Settings.", AlertStyle::alert);
+  alert->addAction("OK", AlertActionStyle::standard, nullptr);
+  viewController.presentViewController(std::move(alert), true, nullptr);
+}
+
+std::string composeBody(const Platform& platform, const std::vector<std::string>& purchases,
+                        std::optional<std::string_view> openingMessage,
+                        std::optional<std::string_view> additionalMetadata) {
+  const Bundle& bundle = platform.bundles.mainBundle();
+  const std::string appId = appIdOf(bundle);
+  const std::string localizedModel = platform.device.localizedModel();
+  const std::string systemVersion = platform.device.systemVersion();
+  const Size screenSize = platform.screen.bounds();
+  const std::vector<std::string> languages = platform.languages.preferredLanguages();
+  const std::string appVersion = appVersionOf(bundle);
+  return supportMailBody(
+      {.openingMessage = openingMessage,
+       .appId = appId,
+       .localizedModel = localizedModel,
+       .systemVersion = systemVersion,
+       .screenSize = screenSize,
+       .preferredLanguage = languages.empty() ? std::string_view() : languages.front(),
+       .appVersion = appVersion,
+       .purchases = purchases,
+       .additionalMetadata = additionalMetadata});
+}
+
+void attachReceipt(const Platform& platform, MailComposer& composer) {
+  const std::optional<FileLocation> location = platform.bundles.mainBundle().appStoreReceiptURL();
+  if (!location) return;
+  const FileContents receipt = platform.files.read(*location);
+  if (!receipt.bytes) {
+    platform.console.print("error converting receipt to Data: " + receipt.errorDescription);
+    return;
+  }
+  composer.addAttachment(supportMailAttachment(*receipt.bytes));
+}
+
+}  // namespace
+
+QV_SupportHelper& QV_SupportHelper::shared() {
+  // Never destroyed: composers may report to it until the very end of the process.
+  static const auto* const instance = new std::shared_ptr<QV_SupportHelper>(create());
+  return **instance;
+}
+
+std::shared_ptr<QV_SupportHelper> QV_SupportHelper::create() {
+  return std::shared_ptr<QV_SupportHelper>(new QV_SupportHelper);
+}
+
+void QV_SupportHelper::contactSupport(ViewController& viewController, const std::string& email,
+                                      const std::string& subject,
+                                      const std::vector<std::string>& purchases,
+                                      std::optional<std::string_view> openingMessage,
+                                      std::optional<std::string_view> additionalMetadata,
+                                      std::weak_ptr<QV_SupportHelperDelegate> delegate) {
+  const Platform& platform = currentPlatform();
+  if (!platform.mailComposers.canSendMail()) {
+    presentCannotSendAlert(platform.alerts, viewController);
+    return;
+  }
+  delegate_ = std::move(delegate);
+  std::shared_ptr<MailComposer> composer = platform.mailComposers.makeMailComposer();
+  composer->setToRecipients({email});
+  composer->setSubject(subject);
+  composer->setMailComposeDelegate(weak_from_this());
+  composer->setMessageBody(composeBody(platform, purchases, openingMessage, additionalMetadata),
+                           false);
+  attachReceipt(platform, *composer);
+  viewController.presentViewController(std::move(composer), true, nullptr);
+}
+
+void QV_SupportHelper::mailComposeController(MailComposer& controller, MailComposeResult,
+                                             const std::string&) {
+  controller.dismissViewController(true, [self = shared_from_this()] {
+    if (std::shared_ptr<QV_SupportHelperDelegate> told = self->delegate_.lock()) {
+      told->onCompletion();
+    }
+    self->delegate_.reset();
+  });
+}
+
+}  // namespace qv_commons
