@@ -12,12 +12,15 @@
 #pragma once
 
 #include "qv_commons/platform/alert.h"
+#include "qv_commons/platform/application.h"
 #include "qv_commons/platform/bundle.h"
+#include "qv_commons/platform/clock.h"
 #include "qv_commons/platform/console.h"
 #include "qv_commons/platform/device.h"
 #include "qv_commons/platform/files.h"
 #include "qv_commons/platform/mail_composer.h"
 #include "qv_commons/platform/screen.h"
+#include "qv_commons/platform/system_version.h"
 
 namespace qv_commons {
 
@@ -28,6 +31,9 @@ struct Platform {
   Device& device;
   Languages& languages;
   Screen& screen;
+  SystemVersion& systemVersion;
+  Clock& clock;
+  Application& application;
   MailComposers& mailComposers;
   Alerts& alerts;
 };

@@ -54,4 +54,20 @@ UserInterfaceStyle MemoryDevice::userInterfaceStyle() const {
   return style;
 }
 
+bool MemoryDevice::isOperatingSystemAtLeastVersion(const OperatingSystemVersion& asked) const {
+  record_.add("systemVersion.isAtLeast ", std::to_string(asked.majorVersion), ".",
+              std::to_string(asked.minorVersion), ".", std::to_string(asked.patchVersion));
+  return versionNumber >= asked;
+}
+
+double MemoryClock::timeIntervalSince1970() const {
+  record_.add("clock.timeIntervalSince1970");
+  return now;
+}
+
+void MemoryApplication::openURL(std::string_view url) {
+  record_.add("application.openURL ", url);
+  opened.emplace_back(url);
+}
+
 }  // namespace qv_commons::memory

@@ -10,12 +10,15 @@
 #include <string>
 #include <vector>
 
+#include "qv_commons/platform/application.h"
 #include "qv_commons/platform/bundle.h"
+#include "qv_commons/platform/clock.h"
 #include "qv_commons/platform/console.h"
 #include "qv_commons/platform/device.h"
 #include "qv_commons/platform/files.h"
 #include "qv_commons/platform/memory/record.h"
 #include "qv_commons/platform/screen.h"
+#include "qv_commons/platform/system_version.h"
 
 namespace qv_commons::memory {
 
@@ -74,11 +77,12 @@ class MemoryConsole final : public Console {
   Record& record_;
 };
 
-class MemoryDevice final : public Device, public Languages, public Screen {
+class MemoryDevice final : public Device, public Languages, public Screen, public SystemVersion {
  public:
   explicit MemoryDevice(Record& record) : record_(record) {}
 
   std::string version = "14.4";
+  OperatingSystemVersion versionNumber = {14, 4, 0};
   std::string model = "iPhone";
   std::vector<std::string> languages = {"en-US"};
   Size screenBounds = {375, 667};
@@ -89,6 +93,31 @@ class MemoryDevice final : public Device, public Languages, public Screen {
   std::vector<std::string> preferredLanguages() const override;
   Size bounds() const override;
   UserInterfaceStyle userInterfaceStyle() const override;
+  bool isOperatingSystemAtLeastVersion(const OperatingSystemVersion& asked) const override;
+
+ private:
+  Record& record_;
+};
+
+class MemoryClock final : public Clock {
+ public:
+  explicit MemoryClock(Record& record) : record_(record) {}
+
+  double now = 1700000000;  // 2023-11-14 22:13:20 UTC
+
+  double timeIntervalSince1970() const override;
+
+ private:
+  Record& record_;
+};
+
+class MemoryApplication final : public Application {
+ public:
+  explicit MemoryApplication(Record& record) : record_(record) {}
+
+  std::vector<std::string> opened;  // the links, oldest first
+
+  void openURL(std::string_view url) override;
 
  private:
   Record& record_;

@@ -11,6 +11,9 @@ MemoryPlatform::MemoryPlatform()
                 .device = device_,
                 .languages = device_,
                 .screen = device_,
+                .systemVersion = device_,
+                .clock = clock_,
+                .application = application_,
                 .mailComposers = mail_,
                 .alerts = alerts_} {}
 

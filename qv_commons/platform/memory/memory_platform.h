@@ -44,6 +44,8 @@ class MemoryPlatform {
   MemoryFiles& files() { return files_; }
   MemoryConsole& console() { return console_; }
   MemoryDevice& device() { return device_; }
+  MemoryClock& clock() { return clock_; }
+  MemoryApplication& application() { return application_; }
   MemoryMail& mail() { return mail_; }
   MemoryAlerts& alerts() { return alerts_; }
 
@@ -58,6 +60,8 @@ class MemoryPlatform {
   MemoryFiles files_{record_};
   MemoryConsole console_{record_};
   MemoryDevice device_{record_};
+  MemoryClock clock_{record_};
+  MemoryApplication application_{record_};
   MemoryMail mail_{record_, transitions_};
   MemoryAlerts alerts_{record_, transitions_};
   Platform platform_;
