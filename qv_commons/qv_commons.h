@@ -11,4 +11,7 @@
 #include "qv_commons/app_info/app_info_helper.h"
 #include "qv_commons/app_info/bundle_file_helper.h"
 #include "qv_commons/platform/platform.h"
+#include "qv_commons/support/links.h"
+#include "qv_commons/support/rate_helper.h"
 #include "qv_commons/support/support_helper.h"
+#include "qv_commons/support/url.h"
