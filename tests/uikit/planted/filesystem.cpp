@@ -1,0 +1,3 @@
+#include <filesystem>
+
+bool isThere(const char* file) { return std::filesystem::exists(file); }

@@ -1,0 +1,5 @@
+#import <UIKit/UIKit.h>
+
+void keepUp(UIViewController* screen);
+
+void keepUp(UIViewController* screen) { screen.modalInPresentation = YES; }
