@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #import "tests/uikit/expect.h"
+#import "tests/uikit/units_string.h"
 
 using qv_commons::uikit::toNSArray;
 using qv_commons::uikit::toNSString;
@@ -11,12 +12,6 @@ using qv_commons::uikit::toString;
 using qv_commons::uikit::toStrings;
 
 namespace {
-
-// A text of UTF-16 units, also of such as are no characters.
-NSString* fromUnits(std::u16string_view units) {
-  return [NSString stringWithCharacters:reinterpret_cast<const unichar*>(units.data())
-                                 length:units.size()];
-}
 
 TEST(TextConversion, KeepsEveryCharacterThatBothSidesHave) {
   const std::string text = "a\xC3\xA9\xE2\x82\xAC\xF0\x9F\x91\xA9\xE2\x80\x8D\xF0\x9F\x9A\x80";
@@ -42,17 +37,10 @@ TEST(TextConversion, TakesNulForACharacterLikeOthers) {
 }
 
 TEST(TextConversion, ReplacesHalvesOfSurrogatePairs) {
-  NSString* rocket = @"\U0001F680";
-  NSString* high = [rocket substringToIndex:1];
-  NSString* low = [rocket substringFromIndex:1];
-  ASSERT_EQ([high characterAtIndex:0], 0xD83D);
-  ASSERT_EQ([low characterAtIndex:0], 0xDE80);
-  EXPECT_EQ(toString(high), "\xEF\xBF\xBD");
-  EXPECT_EQ(toString(low), "\xEF\xBF\xBD");
-  EXPECT_EQ(toString([low stringByAppendingString:high]), "\xEF\xBF\xBD\xEF\xBF\xBD");
-  EXPECT_EQ(toString([high stringByAppendingString:@"z"]), "\xEF\xBF\xBDz");
-  EXPECT_EQ(toString([high stringByAppendingString:rocket]),
-            "\xEF\xBF\xBD\xF0\x9F\x9A\x80");
+  EXPECT_EQ(toString(fromUnits({0xD83D})), "\xEF\xBF\xBD");
+  EXPECT_EQ(toString(fromUnits({0xDE80})), "\xEF\xBF\xBD");
+  EXPECT_EQ(toString(fromUnits({'a', 0xDE80, 0xD83D, 'z'})), "a\xEF\xBF\xBD\xEF\xBF\xBDz");
+  EXPECT_EQ(toString(fromUnits({0xD83D, 0xD83D, 0xDE80})), "\xEF\xBF\xBD\xF0\x9F\x9A\x80");
 }
 
 TEST(TextConversion, ReplacesBytesThatAreNoUtf8) {
