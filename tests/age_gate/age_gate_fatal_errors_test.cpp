@@ -1,4 +1,6 @@
 // A layout that does not fit its screen stops the process, and the message says why.
+#include <limits>
+
 #include "tests/age_gate/age_gate_fixture.h"
 
 namespace qv_commons {

@@ -1,5 +1,8 @@
 #include "qv_commons/age_gate/age_gate_helper.h"
 
+#include <algorithm>
+#include <limits>
+
 #include "tests/age_gate/age_gate_fixture.h"
 #include "tests/support_code/allocation_counter.h"
 

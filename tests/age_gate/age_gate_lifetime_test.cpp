@@ -112,7 +112,8 @@ TEST_F(AgeGateLifetime, TheContactHandlerMayTakeTheRefusalAway) {
         ++*state;
       },
       theme, "", "");
-  screen().get()->tapLink("contact", 38);
+  memory::MemoryScreen& shown = *screen();
+  shown.tapLink("contact", 38);
   EXPECT_EQ(*state, 1);
   EXPECT_EQ(screen(), nullptr);
   EXPECT_EQ(state.use_count(), 1);
