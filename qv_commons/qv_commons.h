@@ -7,3 +7,4 @@
 #include "qv_commons/support/rate_helper.h"
 #include "qv_commons/support/support_helper.h"
 #include "qv_commons/support/url.h"
+#include "qv_commons/time/time_helper.h"
