@@ -25,7 +25,7 @@ LinkTextView::LinkTextView(QWidget* parent) : QTextBrowser(parent) {
   setTextInteractionFlags(Qt::TextBrowserInteraction);
   document()->setDocumentMargin(0);
   viewport()->setAutoFillBackground(false);
-  QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
   policy.setHeightForWidth(true);
   setSizePolicy(policy);
   connect(this, &QTextEdit::textChanged, this, [this] { updateGeometry(); });

@@ -48,12 +48,12 @@ int Wheel::widthOfRows(const QFont& font, MonthForm form) const {
   return width;
 }
 
-int Wheel::rowHeight() const {
-  return std::max(kSmallestRow, static_cast<int>(std::ceil(1.3 * fontMetrics().height())));
+int Wheel::rowHeightFor(const QFont& font) {
+  return std::max(kSmallestRow, static_cast<int>(std::ceil(1.3 * QFontMetrics(font).height())));
 }
 
-QSize Wheel::sizeHint() const {
-  return {kSmallestRow, static_cast<int>(kRowsInSight * rowHeight())};
+int Wheel::heightFor(const QFont& font) {
+  return static_cast<int>(kRowsInSight * rowHeightFor(font));
 }
 
 void Wheel::turnBy(int rows) {
@@ -90,7 +90,7 @@ void Wheel::paintEvent(QPaintEvent*) {
       paintRow(painter, row, row - date_.row(field_) + dragged);
   }
   if (!hasFocus()) return;
-  QRectF ring(0, 0, width(), rowHeight());
+  QRectF ring(0, 0, width(), rowHeightFor(font()));
   ring.moveCenter(QRectF(rect()).center());
   painter.setPen(QPen(palette().color(QPalette::WindowText), 2));
   painter.setBrush(Qt::NoBrush);
@@ -99,14 +99,14 @@ void Wheel::paintEvent(QPaintEvent*) {
 
 void Wheel::paintRow(QPainter& painter, int row, double distance) const {
   const double angle = distance * kDegreesByRow * std::numbers::pi / 180;
-  const double radius = rowHeight() / std::sin(kDegreesByRow * std::numbers::pi / 180);
+  const double radius = rowHeightFor(font()) / std::sin(kDegreesByRow * std::numbers::pi / 180);
   painter.save();
   painter.translate(width() / 2.0, height() / 2.0 + radius * std::sin(angle));
   painter.scale(1, std::cos(angle));
   painter.setOpacity(std::max(kWeakestOpacity, 1 - kOpacityLostByRow * std::abs(distance)));
   painter.setPen(palette().color(QPalette::WindowText));
   painter.setFont(font());
-  const QRectF place(-width() / 2.0, -rowHeight() / 2.0, width(), rowHeight());
+  const QRectF place(-width() / 2.0, -rowHeightFor(font()) / 2.0, width(), rowHeightFor(font()));
   painter.drawText(place, Qt::AlignCenter, date_.text(field_, row, monthForm_));
   painter.restore();
 }
@@ -173,7 +173,7 @@ void Wheel::mouseMoveEvent(QMouseEvent* event) {
 // A drag ends on the row that is nearest to the middle, a tap on the row that was hit.
 void Wheel::mouseReleaseEvent(QMouseEvent* event) {
   if (!isPressed_ || event->button() != Qt::LeftButton) return;
-  const double tapped = (pressedAt_ - height() / 2.0) / rowHeight();
+  const double tapped = (pressedAt_ - height() / 2.0) / rowHeightFor(font());
   const double rows = isDragging_ ? -draggedRows() : tapped;
   isPressed_ = isDragging_ = false;
   turnBy(static_cast<int>(std::lround(rows)));
@@ -184,7 +184,7 @@ void Wheel::mouseReleaseEvent(QMouseEvent* event) {
 double Wheel::draggedRows() const {
   if (!isDragging_) return 0;
   constexpr double kBeyondTheEnd = 0.4;
-  const double rows = static_cast<double>(draggedTo_ - pressedAt_) / rowHeight();
+  const double rows = static_cast<double>(draggedTo_ - pressedAt_) / rowHeightFor(font());
   const int row = date_.row(field_);
   return std::clamp(rows, row - date_.rows(field_) + 1 - kBeyondTheEnd, row + kBeyondTheEnd);
 }

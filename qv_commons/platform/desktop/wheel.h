@@ -31,8 +31,8 @@ class Wheel final : public QWidget {
   // As wide as the widest of its rows in `font`.
   int widthOfRows(const QFont& font, MonthForm form) const;
 
-  int rowHeight() const;
-  QSize sizeHint() const override;
+  static int rowHeightFor(const QFont& font);
+  static int heightFor(const QFont& font);  // of the rows that are in sight
 
   // The user's wish for a row further on, or back; at an end nothing happens.
   void turnBy(int rows);

@@ -50,7 +50,7 @@ void WheelDatePicker::setMaximumDate(std::optional<double> maximum) {
 }
 
 QSize WheelDatePicker::sizeHint() const {
-  return {kSmallestWidth, wheels_.front()->sizeHint().height()};
+  return {kSmallestWidth, Wheel::heightFor(font())};
 }
 
 QSize WheelDatePicker::minimumSizeHint() const {
@@ -75,7 +75,7 @@ void WheelDatePicker::paintEvent(QPaintEvent*) {
   painter.setOpacity(kBandOpacity);
   painter.setPen(Qt::NoPen);
   painter.setBrush(palette().color(QPalette::WindowText));
-  QRectF band(0, 0, width(), wheels_.front()->rowHeight());
+  QRectF band(0, 0, width(), Wheel::rowHeightFor(wheels_.front()->font()));
   band.moveCenter(QRectF(rect()).center());
   painter.drawRoundedRect(band, kBandRadius, kBandRadius);
 }

@@ -1,6 +1,6 @@
 #include "qv_commons/platform/desktop/widget_views.h"
 
-#include <QTextBlock>
+#include <QPointer>
 #include <QTextCursor>
 #include <algorithm>
 #include <utility>
@@ -86,9 +86,9 @@ void LinkedTextView::setAttributedText(const AttributedString& text) {
   QTextDocument* copy = own.document().clone(&widget_);
   copy->setDefaultFont(widget_.font());
   copy->setDocumentMargin(0);
-  QTextDocument* before = widget_.document();
+  const QPointer<QTextDocument> before = widget_.document();
   widget_.setDocument(copy);
-  if (before->parent() == &widget_) delete before;
+  delete before;  // unless it was the first, which Qt deletes itself
   links_ = own.links();
   paintLinks();
 }
