@@ -2,7 +2,6 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <fcntl.h>
 #include <filesystem>
 #include <sqlite3.h>
@@ -11,6 +10,8 @@
 #include <system_error>
 #include <unistd.h>
 #include <utility>
+
+#include "qv_commons/platform/desktop/file_descriptor.h"
 
 namespace qv_commons::desktop {
 
@@ -34,21 +35,6 @@ Statement prepare(sqlite3* database, const char* text, int& code) {
   code = sqlite3_prepare_v2(database, text, -1, &statement, nullptr);
   return Statement(statement);
 }
-
-class Descriptor {
- public:
-  explicit Descriptor(int number) : number_(number) {}
-  ~Descriptor() {
-    if (isOpen()) close(number_);
-  }
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  bool isOpen() const { return number_ >= 0; }
-  int number() const { return number_; }
-
- private:
-  int number_;
-};
 
 }  // namespace
 
@@ -85,9 +71,10 @@ SqliteFile::Outcome SqliteFile::open(Mode mode) {
   if (database_) return Outcome::done;
   if (mode == Mode::openOrMake) {
     // SQLite would make it readable by everybody.
-    const Descriptor made(::open(path_.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR));
+    const FileDescriptor made(
+        ::open(path_.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR));
     if (!made.isOpen()) {
-      report(std::strerror(errno));
+      report(describeError(errno));
       return Outcome::failed;
     }
   }
@@ -168,9 +155,9 @@ SqliteFile::Outcome SqliteFile::outcomeOf(int code) {
 void SqliteFile::setAsideIfDamaged() {
   database_.reset();
   const std::string folder = std::filesystem::path(path_).parent_path();
-  const Descriptor lock(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  const FileDescriptor lock(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (!lock.isOpen() || flock(lock.number(), LOCK_EX) != 0) {
-    report(std::strerror(errno));
+    report(describeError(errno));
     return;
   }
   Values values;
@@ -188,7 +175,7 @@ bool SqliteFile::moveAside() {
       return true;
     }
     if (errno != EEXIST) {
-      report(std::strerror(errno));
+      report(describeError(errno));
       return false;
     }
   }

@@ -73,8 +73,8 @@ class PickerView final : public WidgetView<DatePicker> {
   WheelDatePicker& picker_;
 };
 
-// Opens a link with the system.
-using LinkOpener = std::function<void(std::string_view url)>;
+// Opens a link with the system; what is no URL comes to nothing.
+using LinkOpener = std::function<void(std::string_view link)>;
 
 class LinkedTextView final : public WidgetView<TextView> {
  public:
