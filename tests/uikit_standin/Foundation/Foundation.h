@@ -9,7 +9,7 @@
 #define API_AVAILABLE(version) __attribute__((availability(STANDIN_##version)))
 #define STANDIN_ios(version) ios, introduced = version
 typedef double CGFloat;
-#else
+#elif !defined(API_AVAILABLE)  // tools/platform_names.py reads the marks
 #define API_AVAILABLE(...)
 #endif
 
