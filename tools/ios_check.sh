@@ -33,9 +33,10 @@ cat >"$out/flags" <<FLAGS
 -target arm64-apple-ios11.0 -c -O1
 -nostdinc -nostdinc++ -isystem $out/config -isystem tools/ios_sysroot -isystem $libcxx
 -isystem $(clang-19 -print-resource-dir)/include -isystem $(echo /usr/include/*-linux-musl)
--isystem $objc -isystem /usr/include/GNUstep -Itests/uikit_standin
+-isystem $objc -isystem tests/uikit_standin -isystem /usr/include/GNUstep
 -I. -Iqv_commons/platform/uikit/include
--DQV_COMMONS_MAKER_HOST=\\"www.example.com\\" -D_GNU_SOURCE -DGNUSTEP -DGNUSTEP_BASE_LIBRARY=1 -DGNU_RUNTIME=1 -D_NATIVE_OBJC_EXCEPTIONS
+-DQV_COMMONS_MAKER_HOST=\\"www.example.com\\" -D_GNU_SOURCE
+-DGNUSTEP -DGNUSTEP_BASE_LIBRARY=1 -DGNU_RUNTIME=1 -D_NATIVE_OBJC_EXCEPTIONS
 -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wunguarded-availability -Werror
 -Wno-nullability-extension -Wno-nullability-completeness
 FLAGS

@@ -85,7 +85,7 @@ using standin::note;
 }
 - (void)setDate:(NSDate*)date {
   note(@"%@ setDate:%.3f", nameOf(self), date.timeIntervalSince1970);
-  _date = date;
+  _date = _maximumDate == nil ? date : [date earlierDate:_maximumDate];
 }
 - (void)setMinimumDate:(NSDate*)date {
   note(@"%@ setMinimumDate:%.3f", nameOf(self), date.timeIntervalSince1970);
@@ -98,6 +98,7 @@ using standin::note;
     note(@"%@ setMaximumDate:%.3f", nameOf(self), date.timeIntervalSince1970);
   }
   _maximumDate = date;
+  if (date != nil) _date = [_date earlierDate:date];
 }
 @end
 

@@ -1,3 +1,5 @@
+#include <objc/runtime.h>
+
 #include <cstdio>
 
 #import "tests/uikit_standin/standin.h"
@@ -5,6 +7,7 @@
 namespace standin {
 namespace {
 
+double now;
 NSOperatingSystemVersion systemVersion;
 NSString* model;
 CGSize screenSize;
@@ -17,6 +20,7 @@ bool canSendMail;
 
 void reset() {
   finishTransitions();
+  now = 1700000000;
   setSystemVersion(14, 4);
   model = @"iPhone";
   screenSize = NSMakeSize(375, 667);
@@ -51,6 +55,7 @@ bool systemIsAtLeast(const char* version) {
   return systemIsAtLeast(NSOperatingSystemVersion{major, minor, 0});
 }
 
+void setNow(double secondsSince1970) { now = secondsSince1970; }
 void setModel(NSString* localizedModel) { model = localizedModel; }
 void setScreenSize(CGSize points) { screenSize = points; }
 void setUserInterfaceStyle(UIUserInterfaceStyle style) { interfaceStyle = style; }
@@ -59,6 +64,33 @@ NSMutableArray<NSURL*>* openedURLs() { return opened; }
 void setCanSendMail(bool can) { canSendMail = can; }
 
 }  // namespace standin
+
+namespace {
+
+NSDate* standinDate(id, SEL) { return [NSDate dateWithTimeIntervalSince1970:standin::now]; }
+
+IMP originalSetBool;
+
+void noteSetBool(NSUserDefaults* self, SEL selector, BOOL value, NSString* key) {
+  standin::note(@"NSUserDefaults setBool:%d forKey:%@", value, key);
+  reinterpret_cast<void (*)(id, SEL, BOOL, NSString*)>(originalSetBool)(self, selector, value, key);
+}
+
+}  // namespace
+
+// The clock stands still at what a test set; what is written to the user defaults is noted.
+@interface StandinFoundation : NSObject
+@end
+
+@implementation StandinFoundation
++ (void)load {
+  method_setImplementation(class_getClassMethod([NSDate class], @selector(date)),
+                           reinterpret_cast<IMP>(standinDate));
+  originalSetBool = method_setImplementation(
+      class_getInstanceMethod([NSUserDefaults class], @selector(setBool:forKey:)),
+      reinterpret_cast<IMP>(noteSetBool));
+}
+@end
 
 @implementation UITraitCollection
 - (UIUserInterfaceStyle)userInterfaceStyle {

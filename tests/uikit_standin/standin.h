@@ -19,8 +19,8 @@
 
 namespace standin {
 
-// Everything as at the start of a test: system 14.4 on an "iPhone" of 375 by 667 points in the light
-// look, mail set up, empty records, empty user defaults, no receipt.
+// Everything as at the start of a test: 2023-11-14 22:13:20 UTC, system 14.4 on an "iPhone" of 375 by
+// 667 points in the light look, mail set up, empty records, empty user defaults, no receipt.
 void reset();
 
 std::vector<std::string>& record();
@@ -48,6 +48,7 @@ void setSystemVersion(NSInteger major, NSInteger minor, NSInteger patch = 0);
 bool systemIsAtLeast(const char* version);  // "13.0"
 bool systemIsAtLeast(NSOperatingSystemVersion version);
 
+void setNow(double secondsSince1970);
 void setModel(NSString* localizedModel);
 void setScreenSize(CGSize points);
 void setUserInterfaceStyle(UIUserInterfaceStyle style);

@@ -37,7 +37,8 @@ NS_ASSUME_NONNULL_BEGIN
 
 @property(nonatomic, readonly) qv_commons::LayoutScreen& screen;
 
-// The view that the outlet refers to, weakly; nil where it is not connected.
+// The view that the screen's outlet of that name refers to, weakly; nil where it is not connected.
+// A view for which the screen has no outlet, or one of another class, is not kept.
 - (nullable UIView*)viewForOutlet:(const char*)name;
 - (void)setView:(nullable UIView*)view forOutlet:(const char*)name;
 

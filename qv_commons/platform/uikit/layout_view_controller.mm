@@ -1,5 +1,6 @@
 #import "qv_commons/platform/uikit/layout_view_controller.h"
 
+#include <optional>
 #include <type_traits>
 #include <utility>
 
@@ -27,11 +28,11 @@ class ScreenNode final : public UIKitNode {
   fatalError(toString(NSStringFromClass(type)).append(": ").append(what));
 }
 
-Outlet outletNamed(LayoutScreen& screen, std::string_view name, Class type) {
+std::optional<Outlet> outletNamed(LayoutScreen& screen, std::string_view name) {
   for (const Outlet& outlet : screen.outlets()) {
     if (outlet.name == name) return outlet;
   }
-  failFor(type, std::string("there is no outlet \"").append(name).append("\""));
+  return std::nullopt;
 }
 
 }  // namespace
@@ -86,23 +87,23 @@ using qv_commons::uikit::failFor;
 }
 
 - (UIView*)viewForOutlet:(const char*)name {
-  const qv_commons::Outlet outlet =
-      qv_commons::uikit::outletNamed(self.screen, name, self.class);
+  const auto outlet = qv_commons::uikit::outletNamed(self.screen, name);
+  if (!outlet) return nil;
   return std::visit(
       [](auto* reference) { return qv_commons::uikit::toUIView(reference->lock().get()); },
-      outlet.reference);
+      outlet->reference);
 }
 
 - (void)setView:(UIView*)view forOutlet:(const char*)name {
+  const auto outlet = qv_commons::uikit::outletNamed(self.screen, name);
+  if (!outlet) return;
   const std::shared_ptr<qv_commons::View> connected = qv_commons::uikit::toView(view);
-  const qv_commons::Outlet outlet =
-      qv_commons::uikit::outletNamed(self.screen, name, self.class);
   std::visit(
       [&](auto* reference) {
         using Type = typename std::remove_pointer_t<decltype(reference)>::element_type;
         *reference = std::dynamic_pointer_cast<Type>(connected);
       },
-      outlet.reference);
+      outlet->reference);
 }
 
 - (void)runAction:(SEL)selector {

@@ -33,10 +33,11 @@ class ViewOver : public Interface, public NativeView {
   UIView* uiView() const override { return view_; }
 
  protected:
-  Native* view() const { return view_; }
+  Native* view() const { return static_cast<Native*>(view_); }
 
  private:
-  __weak Native* view_;
+  // Not a pointer to `Native`: clang takes a weak pointer to a template's parameter for a strong one.
+  __weak UIView* view_;
 };
 
 }  // namespace qv_commons::uikit

@@ -2,4 +2,6 @@
 
 void keepUp(UIViewController* screen);
 
-void keepUp(UIViewController* screen) { screen.modalInPresentation = YES; }
+void keepUp(UIViewController* screen) {
+  screen.modalInPresentation = YES;
+}

@@ -4,13 +4,18 @@
 
 #include_next <Foundation/Foundation.h>
 
+#ifdef __APPLE__
+typedef double CGFloat;
+#endif
+
 // Only the compiler for the device judges by first system versions.
+#ifndef API_AVAILABLE
 #ifdef __APPLE__
 #define API_AVAILABLE(version) __attribute__((availability(STANDIN_##version)))
 #define STANDIN_ios(version) ios, introduced = version
-typedef double CGFloat;
-#elif !defined(API_AVAILABLE)  // tools/platform_names.py reads the marks
+#else
 #define API_AVAILABLE(...)
+#endif
 #endif
 
 // gnustep-base defines it as nothing.

@@ -1,0 +1,22 @@
+// What the tests of the adapter share: a host's screen, and whole records compared in order.
+#pragma once
+
+#import <QV_Commons_iOS/QV_Commons_iOS.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#import "tests/uikit/expect.h"
+#import "tests/uikit/units_string.h"
+#import "tests/uikit_standin/standin.h"
+
+class UIKitTest : public testing::Test {
+ protected:
+  // What has been noted since the last call.
+  static std::vector<std::string> lines() { return std::exchange(standin::record(), {}); }
+
+  UIViewController* home = standin::makeViewController(@"home");
+};
