@@ -7,7 +7,7 @@ platform's own headers.
 
 OBJC_HEADERS is the build's folder of mended Objective-C headers (objc_compat). Without TYPES_PACKAGE
 npm fetches the package into a temporary folder. A name that the package lacks, or declares
-otherwise, is reported and left out.
+otherwise, is reported and left out. For protocols it gives no versions.
 """
 
 import os

@@ -43,7 +43,8 @@ def problems(finder, known):
             yield f'{place}: the platform has no {use.kind} {use.owner} {use.name}'
         elif real.number not in ('-', use.number):
             yield f'{place}: {use.name} is {use.number} here and {real.number} on the platform'
-        elif (newer(real.since) or newer(use.since)) and real.since != use.since:
+        elif real.since != '-' and real.since != use.since and (
+                newer(real.since) or newer(use.since)):
             yield f'{place}: {use.name} is marked {use.since} and there from {real.since} on'
     for place in finder.unresolved:
         yield f'{place}: a template leaves open whose member this is'
@@ -61,17 +62,16 @@ class PlatformNames(unittest.TestCase):
 
     def test_the_names_were_found(self):
         used = {use[:3] for use in self.finder.places}
-        for expected in (
-                ('method', 'UIViewController', 'presentViewController:animated:completion:'),
-                ('property', 'UIViewController', 'modalInPresentation'),
-                ('property', 'UISearchBar', 'searchTextField'),
-                ('property', 'UIDatePicker', 'preferredDatePickerStyle'),
-                ('value', 'UIDatePickerStyle', 'UIDatePickerStyleWheels'),
-                ('class-method', 'NSUserDefaults', 'standardUserDefaults'),
-                ('method', 'UITextViewDelegate',
-                 'textView:shouldInteractWithURL:inRange:interaction:'),
-                ('constant', '-', 'NSLinkAttributeName')):
-            self.assertIn(expected, used)
+        self.assertLessEqual({
+            ('method', 'UIViewController', 'presentViewController:animated:completion:'),
+            ('property', 'UIViewController', 'modalInPresentation'),
+            ('property', 'UISearchBar', 'searchTextField'),
+            ('property', 'UIDatePicker', 'preferredDatePickerStyle'),
+            ('value', 'UIDatePickerStyle', 'UIDatePickerStyleWheels'),
+            ('class-method', 'NSUserDefaults', 'standardUserDefaults'),
+            ('method', 'UITextViewDelegate',
+             'textView:shouldInteractWithURL:inRange:interaction:'),
+            ('constant', '-', 'NSLinkAttributeName')}, used)
 
     def test_the_list_holds_nothing_else(self):
         self.assertEqual(set(listed()) - {use[:3] for use in self.finder.places}, set(),
@@ -100,9 +100,8 @@ class Mistakes(unittest.TestCase):
 
     def test_nothing_planted_is_fine(self):
         self.assertEqual(self.found(
-            'UIKit/UIViewController.h', '@interface', '@interface',
-            'void go(UIViewController* c) { [c presentViewController:c animated:YES completion:nil]; }'
-        ), [])
+            'UIKit/UIView.h', '@interface', '@interface',
+            'void go(UIView* view) { view.layer.cornerRadius = 8; }'), [])
 
     def test_a_wrong_selector(self):
         self.assertEqual(self.found(
