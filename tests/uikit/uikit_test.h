@@ -11,6 +11,7 @@
 
 #import "tests/uikit/expect.h"
 #import "tests/uikit/units_string.h"
+#include "tests/uikit_standin/runtime/catch.h"
 #import "tests/uikit_standin/standin.h"
 
 class UIKitTest : public testing::Test {

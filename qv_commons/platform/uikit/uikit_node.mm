@@ -6,6 +6,7 @@
 #import "qv_commons/platform/uikit/availability.h"
 #import "qv_commons/platform/uikit/blocks.h"
 #import "qv_commons/platform/uikit/uikit_alert.h"
+#import "qv_commons/platform/uikit/uikit_links.h"
 #import "qv_commons/platform/uikit/uikit_mail.h"
 
 namespace qv_commons::uikit {
@@ -57,35 +58,19 @@ void UIKitNode::setOverrideUserInterfaceStyle(UserInterfaceStyle style) {
 }
 
 ViewController* UIKitNode::presentedViewController() const {
-  return toViewController(controller_.presentedViewController);
+  return toViewController(UIKitLinks::presented(controller_));
 }
 
 ViewController* UIKitNode::presentingViewController() const {
-  return toViewController(controller_.presentingViewController);
+  return toViewController(UIKitLinks::presenting(controller_));
 }
 
 ViewControllerKind UIKitNode::kind() const {
-  UIViewController* controller = controller_;
-  if ([controller isKindOfClass:[UINavigationController class]]) {
-    return ViewControllerKind::navigation;
-  }
-  if ([controller isKindOfClass:[UITabBarController class]]) return ViewControllerKind::tabBar;
-  if ([controller isKindOfClass:[UIAlertController class]]) return ViewControllerKind::alert;
-  return ViewControllerKind::plain;
+  return UIKitLinks::kind(controller_);
 }
 
 ViewController* UIKitNode::childViewController() const {
-  switch (kind()) {
-    case ViewControllerKind::navigation:
-      return toViewController(
-          static_cast<UINavigationController*>(controller_).visibleViewController);
-    case ViewControllerKind::tabBar:
-      return toViewController(
-          static_cast<UITabBarController*>(controller_).selectedViewController);
-    case ViewControllerKind::plain:
-    case ViewControllerKind::alert:
-      return nullptr;
-  }
+  return toViewController(UIKitLinks::child(controller_));
 }
 
 std::shared_ptr<ViewController> UIKitNode::retained() {
