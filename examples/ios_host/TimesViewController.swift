@@ -39,7 +39,7 @@ final class TimesViewController: UIViewController, QV_SupportHelperDelegate {
             minimumAgeRequired: 16,
             completion: { [weak self] in self?.title = "Let through" },
             contactUsHandler: { [weak self] screen in self?.contactSupport(from: screen) },
-            colorTheme: .default(),
+            colorTheme: .defaultTheme(),
             privacyLink: QV_Links.privacyPolicy().absoluteString,
             termsOfServiceLink: QV_Links.termsOfService().absoluteString)
         QV_RateHelper.openWriteReviewOnAppStore(appId: "id123456789")

@@ -28,7 +28,7 @@ NS_SWIFT_UI_ACTOR
 
 /// A new theme of the stock colours: the dark ones where the device shows its dark look at this
 /// moment (iOS 13.0 or later), the light ones otherwise. It does not follow a later change.
-+ (QV_AgeGateColorTheme*)defaultTheme;
++ (QV_AgeGateColorTheme*)defaultTheme NS_SWIFT_NAME(defaultTheme());
 
 /// There is no theme without colours: stops the process.
 - (instancetype)init NS_UNAVAILABLE;
