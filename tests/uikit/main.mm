@@ -9,7 +9,7 @@
 #include <optional>
 #include <string>
 
-#import "tests/uikit_standin/standin.h"
+#import "tests/uikit/uikit_test.h"
 
 // gnustep-base keeps what it once made; only what the tests leak is of interest, and can't be told
 // apart.
@@ -20,6 +20,8 @@ extern "C" void* objc_autoreleasePoolPush(void);
 extern "C" void objc_autoreleasePoolPop(void* pool);
 
 namespace {
+
+void* pool = nullptr;
 
 // gnustep-base reads where the user defaults are kept from the file that this variable names.
 class OwnUserDefaults {
@@ -40,21 +42,25 @@ class OwnUserDefaults {
 
 class Pools : public testing::EmptyTestEventListener {
   void OnTestStart(const testing::TestInfo&) override {
-    pool_ = objc_autoreleasePoolPush();
+    pool = objc_autoreleasePoolPush();
     standin::reset();
   }
-  void OnTestEnd(const testing::TestInfo&) override { objc_autoreleasePoolPop(pool_); }
-
-  void* pool_ = nullptr;
+  void OnTestEnd(const testing::TestInfo&) override { objc_autoreleasePoolPop(pool); }
 };
 
 }  // namespace
+
+void endTurnOfRunLoop() {
+  objc_autoreleasePoolPop(pool);
+  pool = objc_autoreleasePoolPush();
+}
 
 int main(int argc, char** argv) {
   const OwnUserDefaults defaults;
   testing::InitGoogleTest(&argc, argv);
   testing::UnitTest::GetInstance()->listeners().Append(new Pools);
   @autoreleasepool {
+    [NSTimeZone setDefaultTimeZone:[NSTimeZone timeZoneForSecondsFromGMT:0]];
     return RUN_ALL_TESTS();
   }
 }

@@ -14,6 +14,10 @@
 #include "tests/uikit_standin/runtime/catch.h"
 #import "tests/uikit_standin/standin.h"
 
+// Lets go of what was autoreleased since the test began, as each turn of the run loop does. Not
+// within a pool of the test's own.
+void endTurnOfRunLoop();
+
 class UIKitTest : public testing::Test {
  protected:
   // What has been noted since the last call.

@@ -107,25 +107,28 @@ using standin::note;
   note(@"%@ dismissViewControllerAnimated:%d completion:%@", nameOf(self), animated,
        completion ? @"block" : @"nil");
   UIViewController* presenter = _presenter;
-  NSArray* gone;
+  NSMutableArray* gone = [NSMutableArray array];
   if (_presented.count > 0) {
-    gone = [_presented copy];
-    [_presented removeAllObjects];
+    [self standinTakeAwayPresentedInto:gone];
   } else if (presenter != nil) {
-    gone = @[ self ];
+    [gone addObject:self];
     [presenter->_presented removeObjectIdenticalTo:self];
+    _presenter = nil;
   } else {
     return;
   }
-  for (UIViewController* each in gone) [each standinLeave];
   standin::afterTransition(animated, ^{
     if (completion) completion();
     (void)gone.count;  // what leaves the screen lives until here
   });
 }
-- (void)standinLeave {
-  _presenter = nil;
-  for (UIViewController* each in _presented) [each standinLeave];
+- (void)standinTakeAwayPresentedInto:(NSMutableArray*)gone {
+  for (UIViewController* each in _presented) {
+    each->_presenter = nil;
+    [gone addObject:each];
+    [each standinTakeAwayPresentedInto:gone];
+  }
+  [_presented removeAllObjects];
 }
 @end
 

@@ -23,7 +23,7 @@ typedef double CGFloat;
 #define NS_UNAVAILABLE __attribute__((unavailable))
 
 #ifndef NS_SWIFT_NAME
-#define NS_SWIFT_NAME(name)
+#define NS_SWIFT_NAME(name) __attribute__((swift_name(#name)))
 #endif
 
 NS_ASSUME_NONNULL_BEGIN

@@ -24,7 +24,8 @@ NS_SWIFT_UI_ACTOR
                   buttonBackgroundColor:(UIColor*)buttonBackgroundColor
                         buttonTextColor:(UIColor*)buttonTextColor
                               textColor:(UIColor*)textColor
-                      policiesTextColor:(UIColor*)policiesTextColor;
+                      policiesTextColor:(UIColor*)policiesTextColor
+    NS_SWIFT_NAME(init(backgroundColor:buttonBackgroundColor:buttonTextColor:textColor:policiesTextColor:));
 
 /// A new theme of the stock colours: the dark ones where the device shows its dark look at this
 /// moment (iOS 13.0 or later), the light ones otherwise. It does not follow a later change.

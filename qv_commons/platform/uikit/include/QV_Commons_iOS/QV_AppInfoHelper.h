@@ -10,13 +10,13 @@ NS_SWIFT_UI_ACTOR
 @interface QV_AppInfoHelper : NSObject
 
 /// The short version and the build, for example "2.4.1(317)"; "()" where both are missing.
-+ (NSString*)appVersion;
++ (NSString*)appVersion NS_SWIFT_NAME(appVersion());
 
 /// The bundle identifier, for example "com.example.notes", or "".
-+ (NSString*)appId;
++ (NSString*)appId NS_SWIFT_NAME(appId());
 
 /// The display name, for example "Notes", or "". No other key stands in for it.
-+ (NSString*)appName;
++ (NSString*)appName NS_SWIFT_NAME(appName());
 
 @end
 

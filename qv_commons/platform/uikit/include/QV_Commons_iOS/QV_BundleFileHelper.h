@@ -10,7 +10,7 @@ NS_SWIFT_UI_ACTOR
 
 /// "QV_Commons_iOS.bundle" beside the library's code, looked up at each call; nil where it is not
 /// there or can't be opened.
-+ (nullable NSBundle*)getQVCommonsResourceBundle;
++ (nullable NSBundle*)getQVCommonsResourceBundle NS_SWIFT_NAME(getQVCommonsResourceBundle());
 
 /// The whole text of `filename` + ".json" in the app's main bundle, as it is: not parsed. Nil where
 /// there is no such file, and, with one line on the console, where it is not UTF-8 text.

@@ -8,10 +8,10 @@ NS_ASSUME_NONNULL_BEGIN
 @interface QV_Links : NSObject
 
 /// The privacy policy: an https address that ends in "/privacy/".
-+ (NSURL*)privacyPolicy;
++ (NSURL*)privacyPolicy NS_SWIFT_NAME(privacyPolicy());
 
 /// The terms of service: an https address on the same host that ends in "/terms-of-service/".
-+ (NSURL*)termsOfService;
++ (NSURL*)termsOfService NS_SWIFT_NAME(termsOfService());
 
 @end
 

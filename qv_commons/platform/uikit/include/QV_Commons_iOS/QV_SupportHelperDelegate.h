@@ -9,7 +9,7 @@ NS_SWIFT_UI_ACTOR
 @protocol QV_SupportHelperDelegate <NSObject>
 
 /// Called once, after the composer has left the screen, whatever became of the message.
-- (void)onCompletion;
+- (void)onCompletion NS_SWIFT_NAME(onCompletion());
 
 @end
 
