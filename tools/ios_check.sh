@@ -35,7 +35,8 @@ cat >"$out/flags" <<FLAGS
 -isystem $(clang-19 -print-resource-dir)/include -isystem $(echo /usr/include/*-linux-musl)
 -isystem $objc -isystem tests/uikit_standin -isystem /usr/include/GNUstep
 -I. -Iqv_commons/platform/uikit/include
--D_GNU_SOURCE -DGNUSTEP -DGNUSTEP_BASE_LIBRARY=1 -DGNU_RUNTIME=1 -D_NATIVE_OBJC_EXCEPTIONS
+-DQV_COMMONS_MAKER_HOST=\\"www.example.com\\" -D_GNU_SOURCE
+-DGNUSTEP -DGNUSTEP_BASE_LIBRARY=1 -DGNU_RUNTIME=1 -D_NATIVE_OBJC_EXCEPTIONS
 -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wunguarded-availability -Werror
 -Wno-nullability-extension -Wno-nullability-completeness
 FLAGS

@@ -18,12 +18,12 @@ from clang.cindex import CursorKind as Kind
 
 ROOT = os.path.realpath(os.path.join(os.path.dirname(__file__), '..'))
 STANDIN = os.path.join(ROOT, 'tests/uikit_standin')
+FRAMEWORKS = ('Foundation', 'UIKit', 'MessageUI')
 OURS = ('qv_commons/platform/uikit', 'examples/ios_host')
 
 Use = namedtuple('Use', 'kind owner name number since')
 
 METHODS = {Kind.OBJC_INSTANCE_METHOD_DECL: 'method', Kind.OBJC_CLASS_METHOD_DECL: 'class-method'}
-MEMBERS = (Kind.OBJC_MESSAGE_EXPR, Kind.MEMBER_REF_EXPR)
 PLAIN = {Kind.OBJC_PROTOCOL_DECL: 'protocol', Kind.ENUM_DECL: 'enum',
          Kind.FUNCTION_DECL: 'function', Kind.VAR_DECL: 'constant'}
 REFERRING = {Kind.OBJC_MESSAGE_EXPR, Kind.DECL_REF_EXPR, Kind.MEMBER_REF_EXPR, Kind.TYPE_REF,
@@ -37,13 +37,13 @@ def sources():
                   for file in files if file.endswith(('.m', '.mm')))
 
 
-def flags(source, objc_headers):
+def flags(source, objc_headers, standin):
     language = (['-x', 'objective-c++', '-std=c++20'] if source.endswith('.mm') else
                 ['-x', 'objective-c', '-std=gnu11'])
     return language + [
         '-fblocks', '-fobjc-arc', '-fobjc-runtime=gnustep-1.6', '-fobjc-exceptions', '-DGNUSTEP',
         '-DGNUSTEP_BASE_LIBRARY=1', '-DGNU_RUNTIME=1', '-D_NATIVE_OBJC_EXCEPTIONS', '-I' + ROOT,
-        '-I' + os.path.join(ROOT, 'qv_commons/platform/uikit/include'), '-I' + STANDIN,
+        '-I' + os.path.join(ROOT, 'qv_commons/platform/uikit/include'), '-I' + standin,
         '-isystem', objc_headers, '-isystem', '/usr/include/GNUstep',
         '-DAPI_AVAILABLE(...)=__attribute__((annotate("since " #__VA_ARGS__)))']
 
@@ -57,7 +57,8 @@ def _kind(cursor):
 
 
 class Finder:
-    def __init__(self, objc_headers):
+    def __init__(self, objc_headers, standin=STANDIN):
+        self._standin = os.path.realpath(standin)
         self._objc_headers = os.path.realpath(objc_headers)
         self._index = cindex.Index.create()
         self._declared = {}  # by the name of a class of ours: its interface and categories
@@ -67,7 +68,7 @@ class Finder:
     def read(self, source):
         """Adds the uses of one source and of the project's own headers that it includes."""
         path = os.path.join(ROOT, source)
-        unit = self._index.parse(path, args=flags(source, self._objc_headers))
+        unit = self._index.parse(path, args=flags(source, self._objc_headers, self._standin))
         for diagnostic in unit.diagnostics:
             if diagnostic.severity >= cindex.Diagnostic.Error:
                 raise SyntaxError(str(diagnostic))
@@ -85,21 +86,21 @@ class Finder:
         file = declaration.location.file
         return file is not None and os.path.realpath(file.name).startswith((
             '/usr/include/GNUstep/', self._objc_headers + os.sep,
-            os.path.join(STANDIN, 'UIKit') + os.sep, os.path.join(STANDIN, 'MessageUI') + os.sep))
+            *(os.path.join(self._standin, framework) + os.sep for framework in FRAMEWORKS)))
 
-    def _walk(self, cursor):
+    def _walk(self, cursor, called=False):
         if _kind(cursor) in REFERRING:
             referenced = cursor.referenced
             if referenced is not None and self._platform(referenced):
                 self._add(referenced, cursor)
-            if referenced is None and _kind(cursor) in MEMBERS:
+            if referenced is None and not called:  # what is called is a C++ function
                 self.unresolved.add(_place(cursor))
         if _kind(cursor) in (Kind.OBJC_INTERFACE_DECL, Kind.OBJC_CATEGORY_DECL):
             self._declared.setdefault(_owner_name(cursor), []).append(cursor)
         if _kind(cursor) == Kind.OBJC_IMPLEMENTATION_DECL:
             self._add_overridden(cursor)
-        for child in cursor.get_children():
-            self._walk(child)
+        for index, child in enumerate(cursor.get_children()):
+            self._walk(child, called=index == 0 and _kind(cursor) == Kind.CALL_EXPR)
 
     def _add_overridden(self, implementation):
         """The methods that the platform calls: those of superclasses and protocols."""

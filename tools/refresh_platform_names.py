@@ -7,7 +7,7 @@ platform's own headers.
 
 OBJC_HEADERS is the build's folder of mended Objective-C headers (objc_compat). Without TYPES_PACKAGE
 npm fetches the package into a temporary folder. A name that the package lacks, or declares
-otherwise, is reported and left out.
+otherwise, is reported and left out. For protocols it gives no versions.
 """
 
 import os
@@ -27,13 +27,11 @@ HEADING = '''# The platform's names that the iOS adapter and its example use, fr
 # kind	owner	name	arguments, value or superclass	first system version
 '''
 
-# Variadic methods and inline functions, which the package leaves out; the C functions of the
-# Objective-C run-time's associations are declared without their constants.
+# Variadic methods and inline functions, which the package leaves out.
 LEFT_OUT = {
     Use('class-method', 'NSString', 'stringWithFormat:', '1', '-'),
     Use('class-method', 'NSException', 'raise:format:', '2', '-'),
     Use('function', '-', 'NSMakeRange', '-', '-'),
-    Use('value', '-', 'OBJC_ASSOCIATION_RETAIN_NONATOMIC', '1', '-'),
 }
 
 
@@ -72,7 +70,7 @@ class Declarations:
             elif values is not None and (found := re.match(r'\t(\w+) = (-?\d+)', line)):
                 values[found[1]] = found[2], since
             elif members is not None and (found := re.match(
-                    r'\t(static )?(?:readonly )?(\w+)\??(\(.*)?', line)):
+                    r'\t(static )?(?:readonly )?(\w+)\??(?:<[^(]*>)?(\(.*)?', line)):
                 members.setdefault(found[2], []).append(
                     (bool(found[1]), _arguments(found[3]), since))
             if line:
@@ -105,7 +103,8 @@ class Declarations:
             'method': self._method, 'class-method': self._method, 'property': self._property,
             'class-property': self._property, 'value': self._value, 'class': self._class,
         }.get(use.kind, self._global)(use)
-        return None if since is None else use._replace(since=since)
+        return None if since is None else use._replace(
+            since=since, number='-' if use.name in self.globals else use.number)
 
     def _method(self, use):
         """As itself, or as the getter or setter of a property."""
@@ -130,12 +129,13 @@ class Declarations:
         return next((since for since in found if since is not None), None)
 
     def _value(self, use):
+        """By its number; a constant outside of the package's enums has none there."""
         for enum, values in self.enums.items():
             for short, (value, since) in values.items():
                 prefix = use.name[:-len(short)] if use.name.endswith(short) else None
                 if prefix is not None and enum.startswith(prefix) and value == use.number:
                     return max(since, self.since[enum], key=version)
-        return None
+        return self._global(use)
 
     def _class(self, use):
         known = use.name in self.owners and (

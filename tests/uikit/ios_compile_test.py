@@ -25,7 +25,7 @@ LC_VERSION_MIN_IPHONEOS, LC_BUILD_VERSION, PLATFORM_IOS = 0x25, 0x32, 2
 
 def compile_sources(out, *sources):
     return subprocess.run(
-        [os.path.join(ROOT, 'tools/ios_check.sh'), out, os.environ.get('QV_OBJC_HEADERS', out),
+        [os.path.join(ROOT, 'tools/ios_check.sh'), out, os.environ['QV_OBJC_HEADERS'],
          *sources], capture_output=True, text=True, check=False)
 
 
@@ -56,7 +56,8 @@ class IosCompile(unittest.TestCase):
             result = compile_sources(out)
             self.assertEqual((result.returncode, result.stderr), (0, ''))
             objects = sorted(name for name in os.listdir(out) if name.endswith('.o'))
-            self.assertIn('qv_commons_support_support_helper.cpp.o', objects)
+            for name in ('support_support_helper.cpp', 'platform_uikit_QV_SupportHelper.mm'):
+                self.assertIn(f'qv_commons_{name}.o', objects)
             for name in objects:
                 self.assertEqual(target(os.path.join(out, name)), ('iOS', 11, 0), name)
 
@@ -69,6 +70,14 @@ class IosCompile(unittest.TestCase):
                 result = compile_sources(out, PLANTED + source, 'qv_commons/support/base64.cpp')
                 self.assertEqual(result.returncode, 1)
                 self.assertIn(report, ' '.join(re.findall('error: (.*)', result.stderr)))
+
+    def test_newer_parts_of_the_platform_need_a_version_test(self):
+        with tempfile.TemporaryDirectory() as out:
+            self.assertEqual(compile_sources(out, PLANTED + 'guarded.mm').returncode, 0)
+            result = compile_sources(out, PLANTED + 'unguarded.mm')
+            self.assertEqual(result.returncode, 1)
+            self.assertIn("'setModalInPresentation:' is only available on iOS 13.0 or newer",
+                          result.stderr)
 
 
 if __name__ == '__main__':

@@ -76,6 +76,7 @@ using standin::note;
 @end
 
 @implementation UIDatePicker
+@synthesize preferredDatePickerStyle = _preferredDatePickerStyle;
 @synthesize date = _date;
 @synthesize minimumDate = _minimumDate;
 @synthesize maximumDate = _maximumDate;

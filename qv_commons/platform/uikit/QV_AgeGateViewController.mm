@@ -1,6 +1,7 @@
 #import "qv_commons/platform/uikit/QV_AgeGateViewController.h"
 
 #include "qv_commons/age_gate/age_gate_view_controller.h"
+#include "qv_commons/platform/uikit/availability.h"
 
 @implementation QV_AgeGateViewController
 
@@ -49,6 +50,12 @@
 }
 - (void)setSubtitle:(UILabel*)subtitle {
   [self setView:subtitle forOutlet:"subtitle"];
+}
+
+- (void)viewDidLoad {
+  // Later systems would show a field that opens a calendar, far from any year of birth.
+  if (QV_IOS_AVAILABLE(13.4)) self.datePicker.preferredDatePickerStyle = UIDatePickerStyleWheels;
+  [super viewDidLoad];
 }
 
 - (void)onDateChanged:(id)sender {

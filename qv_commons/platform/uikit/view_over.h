@@ -18,10 +18,17 @@ class ViewOver : public Interface, public NativeView {
   explicit ViewOver(Native* view) : view_(view) {}
 
   void setBackgroundColor(const Color& color) override {
-    view().backgroundColor = toUIColor(color);
+    UIView* view = view_;
+    view.backgroundColor = toUIColor(color);
   }
-  void setCornerRadius(double points) override { view().layer.cornerRadius = points; }
-  void setClipsToBounds(bool clips) override { view().clipsToBounds = clips; }
+  void setCornerRadius(double points) override {
+    UIView* view = view_;
+    view.layer.cornerRadius = points;
+  }
+  void setClipsToBounds(bool clips) override {
+    UIView* view = view_;
+    view.clipsToBounds = clips;
+  }
 
   UIView* uiView() const override { return view_; }
 

@@ -1,3 +1,5 @@
 #include <filesystem>
 
-bool isThere(const char* file) { return std::filesystem::exists(file); }
+bool isThere(const char* file) {
+  return std::filesystem::exists(file);
+}

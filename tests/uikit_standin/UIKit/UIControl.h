@@ -29,7 +29,14 @@ typedef NS_OPTIONS(NSUInteger, UIControlState) {
 - (nullable UIColor*)titleColorForState:(UIControlState)state;
 @end
 
+typedef NS_ENUM(NSInteger, UIDatePickerStyle) {
+  UIDatePickerStyleAutomatic,
+  UIDatePickerStyleWheels,
+  UIDatePickerStyleCompact,
+} API_AVAILABLE(ios(13.4));
+
 @interface UIDatePicker : UIControl
+@property(nonatomic) UIDatePickerStyle preferredDatePickerStyle API_AVAILABLE(ios(13.4));
 @property(nonatomic, strong) NSDate* date;
 @property(nonatomic, strong, nullable) NSDate* minimumDate;
 @property(nonatomic, strong, nullable) NSDate* maximumDate;

@@ -2,6 +2,7 @@
 // doubles behind them that note what they are told in the record of standin.h.
 #pragma once
 
+#import "UIApp.h"
 #import "UIColor.h"
 #import "UIControl.h"
 #import "UIScreen.h"
