@@ -1,0 +1,46 @@
+// What a tour needs of its surroundings: waiting, pictures, the transcript.
+#pragma once
+
+#include <QDir>
+#include <QFile>
+#include <QPushButton>
+#include <QWidget>
+#include <functional>
+
+namespace host {
+
+class Stage final {
+ public:
+  // Makes the directory where it is missing. `isUsable` tells whether the transcript can be
+  // written.
+  explicit Stage(const QString& directory);
+  bool isUsable() const { return transcript_.isOpen(); }
+  QString path(const QString& name) const { return directory_.filePath(name); }
+
+  // A line of the transcript, also on the console.
+  void note(const QString& line);
+
+  // Lets events run until `done`; where that takes too long, notes that `what` did not happen, and
+  // the tour counts as failed.
+  bool waitFor(const QString& what, const std::function<bool()>& done);
+
+  // A picture of `widget` as `name`.png, once it has settled.
+  void picture(const QString& name, QWidget& widget);
+
+  // The window that is on top of all others by modality, once there is one; null where none came
+  // up.
+  QWidget* waitForModalWindow(const QString& what);
+
+  // Clicks the button of that object name in `window`.
+  void click(QWidget& window, const QString& buttonName);
+
+  void fail(const QString& why);
+  bool failed() const { return failed_; }
+
+ private:
+  QDir directory_;
+  QFile transcript_;
+  bool failed_ = false;
+};
+
+}  // namespace host
