@@ -1,0 +1,209 @@
+#include "qv_commons/platform/desktop/composer_window.h"
+
+#include <QAccessible>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QShortcut>
+#include <QStyle>
+#include <QVBoxLayout>
+#include <limits>
+#include <utility>
+
+#include "qv_commons/platform/desktop/desktop_style.h"
+#include "qv_commons/platform/desktop/qt_text.h"
+
+namespace qv_commons::desktop {
+namespace {
+
+// Named for style sheets, screen readers and tests alike.
+template <class Widget>
+Widget* named(Widget* widget, const QString& name, const char* role) {
+  widget->setObjectName(name);
+  widget->setProperty("role", role);
+  return widget;
+}
+
+QPushButton* makeButton(const QString& name, const QString& text, const char* role,
+                        const std::function<void()>& reaction) {
+  auto* button = named(new QPushButton(text), name, role);
+  button->setAutoDefault(false);  // Return in a field must not send
+  QObject::connect(button, &QPushButton::clicked, button, reaction);
+  return button;
+}
+
+QLineEdit* makeLineEdit(const QString& name) {
+  auto* edit = named(new QLineEdit, name, "field");
+  edit->setMaxLength(std::numeric_limits<int>::max());
+  return edit;
+}
+
+QLabel* makeLabel(const QString& name, const QString& text, const char* role) {
+  auto* label = named(new QLabel(text), name, role);
+  label->setTextFormat(Qt::PlainText);
+  label->setWordWrap(true);
+  return label;
+}
+
+}  // namespace
+
+ComposerWindow::ComposerWindow(const Reactions& reactions) {
+  setWindowTitle("New message");
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  layout->addWidget(makeBar(reactions));
+  scroll_ = new QScrollArea;
+  scroll_->setWidgetResizable(true);
+  scroll_->setFrameShape(QFrame::NoFrame);
+  scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  scroll_->setFocusPolicy(Qt::NoFocus);
+  scroll_->setWidget(makePage(reactions));
+  layout->addWidget(scroll_);
+  addShortcuts();
+
+  QWidget* const order[] = {recipients_, subject_, body_, save_, send_, cancel_};
+  for (std::size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
+  body_->setFocus();
+}
+
+QWidget* ComposerWindow::makeBar(const Reactions& reactions) {
+  auto* bar = named(new QWidget, "bar", "page");
+  auto* layout = new QHBoxLayout(bar);
+  layout->setContentsMargins(kSideMargin, kSideMargin, kSideMargin, kGap / 2);
+  cancel_ = makeButton("cancel", "&Cancel", "plain", reactions.cancel);
+  send_ = makeButton("send", "&Send", "primary", reactions.send);
+  layout->addWidget(cancel_);
+  layout->addStretch();
+  layout->addWidget(send_);
+  return bar;
+}
+
+QWidget* ComposerWindow::makePage(const Reactions& reactions) {
+  auto* page = named(new QWidget, "page", "page");
+  auto* layout = new QVBoxLayout(page);
+  layout->setContentsMargins(kSideMargin, kGap / 2, kSideMargin, kBottomMargin);
+  layout->setSpacing(kGap);
+
+  layout->addWidget(makeLabel("title", windowTitle(), "title"));
+  notice_ = makeLabel("notice", "", "notice");
+  notice_->hide();
+  layout->addWidget(notice_);
+
+  recipients_ = makeLineEdit("to");
+  recipients_->setInputMethodHints(Qt::ImhEmailCharactersOnly);
+  addField(*layout, "&To", *recipients_);
+  subject_ = makeLineEdit("subject");
+  addField(*layout, "S&ubject", *subject_);
+  body_ = named(new QPlainTextEdit, "body", "field");
+  body_->setTabChangesFocus(true);
+  body_->setMinimumHeight(qRound(120 * textScale()));
+  addField(*layout, "&Message", *body_, 1);
+
+  attachments_ = new QVBoxLayout;
+  attachments_->setSpacing(kGap / 2);
+  layout->addLayout(attachments_);
+  save_ = makeButton("save", "Save &draft", "secondary", reactions.save);
+  layout->addWidget(save_);
+  return page;
+}
+
+void ComposerWindow::addField(QVBoxLayout& page, const QString& caption, QWidget& field,
+                              int stretch) {
+  auto* label = named(new QLabel(caption), field.objectName() + "Caption", "caption");
+  label->setBuddy(&field);
+  field.setAccessibleName(QString(caption).remove('&'));
+  auto* column = new QVBoxLayout;
+  column->setSpacing(kCaptionGap);
+  column->addWidget(label);
+  column->addWidget(&field, stretch);
+  page.addLayout(column, stretch);
+}
+
+void ComposerWindow::addShortcuts() {
+  const auto add = [this](const QKeySequence& keys, QPushButton* button) {
+    auto* shortcut = new QShortcut(keys, this);
+    connect(shortcut, &QShortcut::activated, button, &QPushButton::click);
+    button->setToolTip(keys.toString(QKeySequence::NativeText));
+  };
+  add(Qt::CTRL | Qt::Key_Return, send_);
+  add(QKeySequence::Save, save_);
+}
+
+void ComposerWindow::setRecipients(const std::string& recipients) {
+  recipients_->setText(fromUtf8(recipients));
+}
+
+void ComposerWindow::setSubject(const std::string& subject) {
+  subject_->setText(fromUtf8(subject));
+}
+
+void ComposerWindow::setBody(std::string body) {
+  original_ = EditedText(std::move(body));
+  body_->setPlainText(original_.shown());
+}
+
+void ComposerWindow::addAttachment(const MailAttachment& attachment) {
+  const QString name = fromUtf8(attachment.fileName);
+  const QString size = QLocale().formattedDataSize(static_cast<qint64>(attachment.data.size()), 1,
+                                                   QLocale::DataSizeSIFormat);
+  auto* column = new QVBoxLayout;
+  column->setSpacing(0);
+  column->addWidget(makeLabel("attachmentName", breakable(name), "text"));
+  QLabel* sizeLabel = makeLabel("attachmentSize", size, "caption");
+  column->addWidget(sizeLabel);
+  sizeLabel->setAccessibleName("Attachment " + name + ", " + size);
+  attachments_->addLayout(column);
+}
+
+std::string ComposerWindow::recipients() const {
+  return toUtf8(recipients_->text());
+}
+
+std::string ComposerWindow::subject() const {
+  return toUtf8(subject_->text());
+}
+
+std::string ComposerWindow::body() const {
+  // The raw text, since the plain one turns no-break spaces into blanks.
+  return original_.bytesOf(
+      body_->document()->toRawText().replace(QChar::ParagraphSeparator, QChar('\n')));
+}
+
+bool ComposerWindow::isChanged() const {
+  return recipients_->isModified() || subject_->isModified() || body_->document()->isModified();
+}
+
+void ComposerWindow::setPhase(Phase phase) {
+  const bool editing = phase == Phase::editing;
+  recipients_->setReadOnly(!editing);
+  subject_->setReadOnly(!editing);
+  body_->setReadOnly(!editing);
+  send_->setEnabled(editing);
+  save_->setEnabled(editing);
+  cancel_->setEnabled(phase != Phase::left);
+  cancel_->setText(phase == Phase::sending ? "&Stop" : "&Cancel");
+}
+
+void ComposerWindow::showNotice(const QString& text, Tone tone) {
+  notice_->setText(breakable(text));
+  notice_->setAccessibleName(text);
+  notice_->setProperty("role", tone == Tone::error ? "error" : "notice");
+  notice_->style()->polish(notice_);
+  notice_->show();
+  scroll_->ensureWidgetVisible(notice_);
+  QAccessibleEvent alert(notice_, QAccessible::Alert);
+  QAccessible::updateAccessibility(&alert);
+}
+
+void ComposerWindow::focusField(MailField field) {
+  if (field == MailField::other) return;
+  QLineEdit* edit = field == MailField::recipients ? recipients_ : subject_;
+  edit->setFocus();
+  edit->selectAll();
+}
+
+}  // namespace qv_commons::desktop

@@ -1,0 +1,122 @@
+#include "qv_commons/platform/desktop/desktop_alert.h"
+
+#include <QDialog>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "qv_commons/platform/desktop/desktop_node.h"
+#include "qv_commons/platform/desktop/desktop_style.h"
+#include "qv_commons/platform/desktop/qt_text.h"
+
+namespace qv_commons::desktop {
+namespace {
+
+class DesktopAlert final : public DesktopNode {
+ public:
+  DesktopAlert(SharedContext context, const std::string& title, const std::string& message);
+
+  ViewControllerKind kind() const override { return ViewControllerKind::alert; }
+  AlertController& controller() override { return alert_; }
+
+ protected:
+  void place(QWidget& window, const QWidget& presenterWindow) override;
+  void dress(UserInterfaceStyle style) override;
+  void userLeaves() override;
+
+ private:
+  class Alert final : public AlertController {
+   public:
+    explicit Alert(DesktopAlert& owner) : AlertController(owner), owner_(owner) {}
+    void addAction(std::string title, AlertActionStyle style, Completion handler) override {
+      owner_.addButton(title, style, std::move(handler));
+    }
+
+   private:
+    DesktopAlert& owner_;
+  };
+
+  QLabel* addLabel(const std::string& text, const char* role);
+  void addButton(const std::string& title, AlertActionStyle style, Completion handler);
+
+  Alert alert_{*this};
+  QDialog dialog_;
+  QVBoxLayout layout_{&dialog_};
+  std::vector<QPushButton*> buttons_;
+  QPushButton* cancelButton_ = nullptr;
+};
+
+DesktopAlert::DesktopAlert(SharedContext context, const std::string& title,
+                           const std::string& message)
+    : DesktopNode(std::move(context)) {
+  attachWindow(dialog_);
+  dialog_.setWindowTitle(fromUtf8(title));
+  dialog_.setAccessibleName(fromUtf8(title));
+  dialog_.setAccessibleDescription(fromUtf8(message));
+  layout_.setContentsMargins(kSideMargin, kBottomMargin, kSideMargin, kBottomMargin);
+  layout_.setSpacing(kGap / 2);
+  addLabel(title, "heading")->setObjectName("title");
+  addLabel(message, "text")->setObjectName("message");
+  layout_.addSpacing(kGap / 2);
+}
+
+QLabel* DesktopAlert::addLabel(const std::string& text, const char* role) {
+  auto* label = new QLabel(breakable(fromUtf8(text)));
+  label->setProperty("role", role);
+  label->setTextFormat(Qt::PlainText);
+  label->setWordWrap(true);
+  label->setAlignment(Qt::AlignCenter);
+  layout_.addWidget(label);
+  return label;
+}
+
+void DesktopAlert::addButton(const std::string& title, AlertActionStyle style, Completion handler) {
+  auto* button = new QPushButton(fromUtf8(title).replace('&', "&&"));
+  button->setObjectName("action" + QString::number(buttons_.size()));
+  button->setAccessibleName(fromUtf8(title));
+  if (style == AlertActionStyle::cancel) cancelButton_ = button;
+  if (style == AlertActionStyle::destructive) button->setProperty("role", "destructive");
+  if (style == AlertActionStyle::standard && buttons_.empty()) {
+    button->setProperty("role", "primary");
+  }
+  layout_.addWidget(button);
+  buttons_.push_back(button);
+  QObject::connect(button, &QPushButton::clicked, button, [this, handler = std::move(handler)] {
+    PresentationNode::dismissViewController(true, handler);
+  });
+}
+
+void DesktopAlert::place(QWidget& window, const QWidget& presenterWindow) {
+  constexpr int kWidth = 290;
+  const QRect area = presenterWindow.geometry();
+  const int width = std::min(qRound(kWidth * textScale()), area.width() - 2 * kSideMargin);
+  window.setFixedWidth(width);
+  window.resize(width, std::max(window.sizeHint().height(), layout_.heightForWidth(width)));
+  window.move(area.center() - window.rect().center());
+  if (!buttons_.empty()) buttons_.front()->setFocus();
+}
+
+void DesktopAlert::dress(UserInterfaceStyle style) {
+  dialog_.setStyleSheet(styleSheet(themeFor(style), textScale()));
+}
+
+void DesktopAlert::userLeaves() {
+  if (isModalInPresentation()) return;
+  QPushButton* way = buttons_.size() == 1 ? buttons_.front() : cancelButton_;
+  if (way != nullptr) way->click();
+}
+
+}  // namespace
+
+std::shared_ptr<AlertController> DesktopAlerts::makeAlertController(std::string title,
+                                                                    std::string message,
+                                                                    AlertStyle) {
+  auto made = std::make_shared<DesktopAlert>(context_, title, message);
+  AlertController& controller = made->controller();
+  return {std::move(made), &controller};
+}
+
+}  // namespace qv_commons::desktop

@@ -1,0 +1,64 @@
+#include "qv_commons/platform/desktop/desktop_platform.h"
+
+#include <QCoreApplication>
+#include <utility>
+
+#include "qv_commons/platform/desktop/desktop_alert.h"
+#include "qv_commons/platform/desktop/desktop_bundle.h"
+#include "qv_commons/platform/desktop/desktop_context.h"
+#include "qv_commons/platform/desktop/desktop_files.h"
+#include "qv_commons/platform/desktop/desktop_mail.h"
+#include "qv_commons/platform/desktop/desktop_node.h"
+#include "qv_commons/platform/desktop/desktop_screen.h"
+#include "qv_commons/platform/desktop/desktop_system.h"
+
+namespace qv_commons::desktop {
+
+struct DesktopPlatform::Parts {
+  explicit Parts(SharedContext shared) : context(std::move(shared)) {}
+
+  // What still waits refers to screens, and those to the context.
+  ~Parts() { QCoreApplication::removePostedEvents(&context->transitions); }
+
+  SharedContext context;
+  DesktopBundles bundles{*context};
+  DesktopFiles files;
+  DesktopConsole console;
+  DesktopDevice device;
+  DesktopLanguages languages;
+  DesktopScreen screen{context->settings.userInterfaceStyle};
+  DesktopSystemVersion systemVersion{context->settings.systemVersion};
+  DesktopClock clock;
+  DesktopApplication application;
+  DesktopMail mail{context};
+  DesktopAlerts alerts{context};
+  Platform platform{.bundles = bundles,
+                    .files = files,
+                    .console = console,
+                    .device = device,
+                    .languages = languages,
+                    .screen = screen,
+                    .systemVersion = systemVersion,
+                    .clock = clock,
+                    .application = application,
+                    .mailComposers = mail,
+                    .alerts = alerts};
+};
+
+DesktopPlatform::DesktopPlatform(DesktopSettings settings) {
+  auto context = std::make_shared<DesktopContext>();
+  context->settings = std::move(settings);
+  parts_ = std::make_unique<Parts>(std::move(context));
+}
+
+DesktopPlatform::~DesktopPlatform() = default;
+
+const Platform& DesktopPlatform::platform() const {
+  return parts_->platform;
+}
+
+std::shared_ptr<ViewController> DesktopPlatform::viewController(QWidget& hostWindow) const {
+  return makeHostViewController(parts_->context, hostWindow);
+}
+
+}  // namespace qv_commons::desktop

@@ -1,0 +1,79 @@
+// The library's platform on a Linux desktop: Qt windows, the system's mail program, an app's bundle
+// that is a folder.
+//
+// Make it after the QApplication and keep it for as long as the library is used:
+//
+//     QApplication application(argc, argv);
+//     QWidget window;
+//     qv_commons::desktop::DesktopPlatform desktop({.bundleDirectory = "/opt/notes"});
+//     qv_commons::installPlatform(desktop.platform());
+//     std::shared_ptr<qv_commons::ViewController> screen = desktop.viewController(window);
+//     window.show();
+//
+// Main thread only.
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "qv_commons/platform/platform.h"
+
+class QWidget;
+
+namespace qv_commons::desktop {
+
+struct DesktopSettings {
+  // The host app's bundle: a folder with an Info.plist, XML or binary. Where it has a folder
+  // StoreKit, the receipt is expected there as StoreKit/receipt. Empty: a bundle without values.
+  std::string bundleDirectory;
+
+  // Where what lasts is kept, the drafts in its folder "drafts". Empty: the folder that the system
+  // has for this app's data, for example ~/.local/share/notes.
+  std::string dataDirectory;
+
+  // The mail program, called as `program arguments -t -i` with the message on its standard input.
+  // Empty: "sendmail" in PATH, /usr/sbin or /usr/lib.
+  std::string sendmailProgram;
+  std::vector<std::string> sendmailArguments;
+
+  // How long the mail program may take before it is ended and counts as failed.
+  std::chrono::milliseconds sendTimeout = std::chrono::seconds(60);
+
+  // The sender's address. Empty: the user's login name at the host's name.
+  std::string senderAddress;
+
+  // The version that the library takes the system for; its thresholds are those of iOS.
+  OperatingSystemVersion systemVersion = {17, 0, 0};
+
+  // Light or dark; `unspecified` follows the desktop's settings.
+  UserInterfaceStyle userInterfaceStyle = UserInterfaceStyle::unspecified;
+
+  // Told of what a host should know of but no operation can answer, for example an Info.plist that
+  // can't be read. Empty: nobody is.
+  std::function<void(std::string)> onError;
+};
+
+class DesktopPlatform {
+ public:
+  explicit DesktopPlatform(DesktopSettings settings);
+  ~DesktopPlatform();
+  DesktopPlatform(const DesktopPlatform&) = delete;
+  DesktopPlatform& operator=(const DesktopPlatform&) = delete;
+
+  // To be installed: `installPlatform(desktop.platform())`.
+  const Platform& platform() const;
+
+  // The view controller of a host's window, for the library to show its screens over. They go with
+  // it: keep it while the window is open. One that is made anew knows nothing of what an earlier
+  // one for the same window presents.
+  std::shared_ptr<ViewController> viewController(QWidget& hostWindow) const;
+
+ private:
+  struct Parts;
+  std::unique_ptr<Parts> parts_;
+};
+
+}  // namespace qv_commons::desktop

@@ -1,0 +1,99 @@
+#include "qv_commons/platform/desktop/desktop_style.h"
+
+#include <QFont>
+#include <QGuiApplication>
+#include <QScreen>
+#include <algorithm>
+
+namespace qv_commons::desktop {
+namespace {
+
+// %1 to %8: the colours in the theme's order; %9: the font; then the sizes of title, button, text
+// and caption, and the padding of a field.
+constexpr char kSheet[] = R"(
+* { font-family: %9; font-size: %12px; color: %3; }
+QDialog, QScrollArea, QWidget[role="page"] { background: %1; border: none; }
+QLabel[role="title"] { font-size: %10px; font-weight: 600; }
+QLabel[role="heading"] { font-size: %11px; font-weight: 600; }
+QLabel[role="caption"] { font-size: %13px; color: %4; }
+QLabel[role="error"] { color: %8; }
+QLineEdit, QPlainTextEdit {
+  font-size: %11px; background: %2; border: 2px solid %5; border-radius: 10px; padding: %14px;
+  selection-background-color: %6; selection-color: %7;
+}
+QLineEdit:focus, QPlainTextEdit:focus { border-color: %6; }
+QPushButton {
+  font-size: %11px; background: transparent; color: %6; border: 2px solid %5; border-radius: 10px;
+  padding: %14px 16px;
+}
+QPushButton[role="plain"] { border-color: transparent; padding-left: 8px; padding-right: 8px; }
+QPushButton[role="primary"] {
+  background: %6; color: %7; border-color: %6; font-weight: 600;
+}
+QPushButton:focus { border-color: %3; }
+QPushButton:pressed { border-color: %4; }
+QPushButton:disabled { background: transparent; color: %4; border-color: %5; }
+QScrollBar:vertical { background: transparent; width: 8px; margin: 0; }
+QScrollBar::handle:vertical { background: %4; border-radius: 4px; min-height: 32px; }
+QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
+)";
+
+QString pixels(double size, double scale) {
+  return QString::number(qRound(size * scale));
+}
+
+}  // namespace
+
+Theme themeFor(UserInterfaceStyle style) {
+  if (style == UserInterfaceStyle::dark) {
+    return {.background = "#1c1c1e",
+            .field = "#2c2c2e",
+            .text = "#f2f2f7",
+            .caption = "#aeaeb2",
+            .line = "#48484a",
+            .accent = "#6cb1ff",
+            .onAccent = "#0b1c30",
+            .error = "#ff9a92"};
+  }
+  return {.background = "#ffffff",
+          .field = "#f7f7f9",
+          .text = "#1c1c1e",
+          .caption = "#5f5f66",
+          .line = "#c7c7cc",
+          .accent = "#0a58c2",
+          .onAccent = "#ffffff",
+          .error = "#b3261e"};
+}
+
+double textScale() {
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  return screen == nullptr ? 1.0 : std::max(1.0, screen->logicalDotsPerInchY() / 96.0);
+}
+
+QString styleSheet(const Theme& theme, double scale) {
+  // Inter comes first for its clear figures; the user's own font takes over where it is missing.
+  const QString font = QString("Inter, \"%1\"").arg(QGuiApplication::font().family());
+  return QString(kSheet)
+      .arg(theme.background, theme.field, theme.text, theme.caption, theme.line, theme.accent,
+           theme.onAccent, theme.error, font)
+      .arg(pixels(24, scale), pixels(17, scale), pixels(15, scale), pixels(13, scale),
+           pixels(8, scale));
+}
+
+QString breakable(const QString& text) {
+  constexpr QChar kZeroWidthSpace(0x200b);
+  constexpr int kLongWord = 10;
+  QString result;
+  int sinceBreak = 0;
+  for (const QChar character : text) {
+    if (sinceBreak >= kLongWord && !character.isLowSurrogate()) {
+      result.append(kZeroWidthSpace);
+      sinceBreak = 0;
+    }
+    result.append(character);
+    sinceBreak = character.isSpace() ? 0 : sinceBreak + 1;
+  }
+  return result;
+}
+
+}  // namespace qv_commons::desktop
