@@ -6,10 +6,11 @@
 Prints its port, then leaves each message as FILE, the newest in place of the one before. Ends when
 its standard input does.
 """
+import asyncio
 import os
 import sys
 
-from aiosmtpd.controller import Controller
+from aiosmtpd.controller import UnthreadedController
 
 
 class Keeper:
@@ -25,11 +26,12 @@ class Keeper:
 
 
 def main():
-    controller = Controller(Keeper(sys.argv[1]), hostname="127.0.0.1", port=0)
-    controller.start()
+    loop = asyncio.new_event_loop()
+    controller = UnthreadedController(Keeper(sys.argv[1]), hostname="127.0.0.1", port=0, loop=loop)
+    controller.begin()
     print(controller.server.sockets[0].getsockname()[1], flush=True)
-    sys.stdin.read()
-    controller.stop()
+    loop.run_until_complete(loop.run_in_executor(None, sys.stdin.read))
+    controller.end()
 
 
 if __name__ == "__main__":

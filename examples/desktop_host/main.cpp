@@ -43,7 +43,7 @@ int main(int argc, char** argv) {
   }
   if (options->tourDirectory) return host::runTour(*options, settingsFor(*options));
 
-  host::Session session(settingsFor(*options));
+  host::Session session(settingsFor(*options), host::Device::thisDesktop);
   session.window().show();
   return QApplication::exec();
 }

@@ -6,9 +6,10 @@ namespace host {
 
 using namespace qv_commons;
 
-Session::Session(desktop::DesktopSettings settings)
+Session::Session(desktop::DesktopSettings settings, Device device)
     : desktop_(std::move(settings)),
-      scope_(desktop_.platform()),
+      phone_(desktop_.platform()),
+      scope_(device == Device::playedPhone ? phone_.platform() : desktop_.platform()),
       window_(std::make_unique<HostWindow>(QString::fromStdString(QV_AppInfoHelper::appName()))),
       home_(desktop_.viewController(*window_)),
       support_(std::make_shared<SupportObserver>(*window_)) {

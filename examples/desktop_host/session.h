@@ -7,12 +7,16 @@
 #include "qv_commons/qv_commons.h"
 
 #include "examples/desktop_host/host_window.h"
+#include "examples/desktop_host/played_phone.h"
 
 namespace host {
 
+// Which device the services are told that they run on.
+enum class Device { thisDesktop, playedPhone };
+
 class Session final {
  public:
-  explicit Session(qv_commons::desktop::DesktopSettings settings);
+  Session(qv_commons::desktop::DesktopSettings settings, Device device);
 
   HostWindow& window() { return *window_; }
 
@@ -31,6 +35,7 @@ class Session final {
   void contactSupport();
 
   qv_commons::desktop::DesktopPlatform desktop_;
+  PlayedPhone phone_;
   qv_commons::ScopedPlatform scope_;
   std::unique_ptr<HostWindow> window_;
   std::shared_ptr<qv_commons::ViewController> home_;

@@ -67,7 +67,8 @@ QWidget* Stage::waitForModalWindow(const QString& what) {
 void Stage::click(QWidget& window, const QString& buttonName) {
   auto* button = window.findChild<QPushButton*>(buttonName);
   if (button == nullptr || !button->isEnabled()) return fail("can't be clicked: " + buttonName);
-  note("click: " + button->text().remove('&'));
+  const QString text = button->text().isEmpty() ? button->accessibleName() : button->text();
+  note("click: " + QString(text).remove('&'));
   button->click();
 }
 

@@ -2,8 +2,6 @@
 
 #include <QApplication>
 #include <QFile>
-#include <QFont>
-#include <QLocale>
 #include <utility>
 
 #include "examples/desktop_host/mail_sink.h"
@@ -15,14 +13,6 @@ namespace {
 
 using qv_commons::desktop::DesktopSettings;
 
-// The tour plays one device, so that its texts are the same wherever it runs.
-void playPhone(DesktopSettings& settings) {
-  settings.deviceModel = "iPhone";
-  settings.deviceSystemVersion = "14.4";
-  settings.screenSize = {375, 812};
-  QLocale::setDefault(QLocale("en_GB"));
-}
-
 QWidget* openComposer(Stage& stage, Session& session) {
   stage.click(session.window(), "contactSupport");
   return stage.waitForModalWindow("the composer");
@@ -30,7 +20,7 @@ QWidget* openComposer(Stage& stage, Session& session) {
 
 void sendMessage(Stage& stage, DesktopSettings settings) {
   stage.note("== Contact support");
-  Session session(std::move(settings));
+  Session session(std::move(settings), Device::playedPhone);
   session.window().show();
   stage.picture("home", session.window());
   QWidget* composer = openComposer(stage, session);
@@ -51,7 +41,7 @@ void sendMessage(Stage& stage, DesktopSettings settings) {
 void saveDraftAfterFailure(Stage& stage, DesktopSettings settings) {
   stage.note("== Contact support, while the mail can't be delivered");
   settings.sendmailProgram = "/bin/false";
-  Session session(std::move(settings));
+  Session session(std::move(settings), Device::playedPhone);
   session.window().show();
   QWidget* composer = openComposer(stage, session);
   if (composer == nullptr) return;
@@ -67,7 +57,7 @@ void saveDraftAfterFailure(Stage& stage, DesktopSettings settings) {
 void showAlertWithoutMail(Stage& stage, DesktopSettings settings) {
   stage.note("== Contact support, where no mail can be sent");
   settings.sendmailProgram = "/nonexistent/sendmail";
-  Session session(std::move(settings));
+  Session session(std::move(settings), Device::playedPhone);
   session.window().show();
   stage.click(session.window(), "contactSupport");
   QWidget* alert = stage.waitForModalWindow("the alert");
@@ -84,7 +74,6 @@ void showAlertWithoutMail(Stage& stage, DesktopSettings settings) {
 int runTour(const Options& options, DesktopSettings settings) {
   Stage stage(*options.tourDirectory);
   if (!stage.isUsable()) return 1;
-  playPhone(settings);
   if (options.dataDirectory.isEmpty()) settings.dataDirectory = stage.path("data").toStdString();
 
   QFile::remove(stage.path("support-mail.eml"));
