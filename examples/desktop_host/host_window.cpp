@@ -10,7 +10,7 @@ namespace {
 constexpr QSize kPhone(390, 844);
 constexpr QSize kSmallestPhone(320, 568);
 constexpr int kMargin = 20;
-constexpr int kRowPadding = 14;
+constexpr int kRowPadding = 16;
 
 QLabel* makeLabel(const QString& text, const char* role, QWidget* parent) {
   auto* label = new QLabel(text, parent);
@@ -19,9 +19,45 @@ QLabel* makeLabel(const QString& text, const char* role, QWidget* parent) {
   return label;
 }
 
+// `label` between the window's side margins.
+QLayout* inset(QLabel* label) {
+  auto* row = new QVBoxLayout;
+  row->setContentsMargins(kMargin, 0, kMargin, 0);
+  row->addWidget(label);
+  return row;
+}
+
+// A button as tall as the texts in it, which wrap.
+class ServiceRow final : public QPushButton {
+ public:
+  ServiceRow(const QString& title, const QString& explanation) {
+    setProperty("role", "row");
+    setAccessibleName(title);
+    setAccessibleDescription(explanation);
+    setCursor(Qt::PointingHandCursor);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+
+    auto* texts = new QVBoxLayout(this);
+    texts->setContentsMargins(kRowPadding, kRowPadding, kRowPadding, kRowPadding);
+    texts->setSpacing(3);
+    for (QLabel* label :
+         {makeLabel(title, "rowTitle", this), makeLabel(explanation, "hint", this)}) {
+      label->setAttribute(Qt::WA_TransparentForMouseEvents);
+      texts->addWidget(label);
+    }
+  }
+
+  QSize sizeHint() const override { return layout()->sizeHint(); }
+  QSize minimumSizeHint() const override { return layout()->minimumSize(); }
+  int heightForWidth(int width) const override { return layout()->heightForWidth(width); }
+};
+
 }  // namespace
 
 HostWindow::HostWindow(const QString& appName) {
+  setObjectName("host");
   setWindowTitle(appName);
   resize(kPhone);
   setMinimumSize(kSmallestPhone);
@@ -40,39 +76,22 @@ HostWindow::HostWindow(const QString& appName) {
   scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   scroll->setFocusPolicy(Qt::NoFocus);
 
-  auto* title = makeLabel(appName, "title", this);
-  title->setContentsMargins(kMargin, 28, kMargin, 12);
   status_ = makeLabel("", "status", this);
   status_->setObjectName("status");
-  status_->setContentsMargins(kMargin, 12, kMargin, kMargin);
 
   auto* page = new QVBoxLayout(this);
-  page->setContentsMargins(0, 0, 0, 0);
-  page->setSpacing(0);
-  page->addWidget(title);
+  page->setContentsMargins(0, 28, 0, kMargin);
+  page->setSpacing(12);
+  page->addLayout(inset(makeLabel(appName, "title", this)));
   page->addWidget(scroll, 1);
-  page->addWidget(status_);
+  page->addLayout(inset(status_));
   dress();
 }
 
 QPushButton* HostWindow::addService(const QString& name, const QString& title,
                                     const QString& explanation, std::function<void()> use) {
-  auto* row = new QPushButton;
+  auto* row = new ServiceRow(title, explanation);
   row->setObjectName(name);
-  row->setAccessibleName(title);
-  row->setAccessibleDescription(explanation);
-  row->setProperty("role", "row");
-  row->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::MinimumExpanding);
-  row->setCursor(Qt::PointingHandCursor);
-
-  auto* texts = new QVBoxLayout(row);
-  texts->setContentsMargins(kRowPadding + 2, kRowPadding, kRowPadding + 2, kRowPadding);
-  texts->setSpacing(3);
-  texts->setSizeConstraint(QLayout::SetMinimumSize);
-  for (QLabel* label : {makeLabel(title, "rowTitle", row), makeLabel(explanation, "hint", row)}) {
-    label->setAttribute(Qt::WA_TransparentForMouseEvents);
-    texts->addWidget(label);
-  }
   connect(row, &QPushButton::clicked, row, std::move(use));
   services_->insertWidget(services_->count() - 1, row);
   return row;
@@ -87,7 +106,7 @@ void HostWindow::say(const QString& text) {
 void HostWindow::dress() {
   const bool dark = palette().color(QPalette::Window).lightness() < 128;
   const QString style = R"(
-    host--HostWindow, QScrollArea, #list { background: %1; }
+    #host, QScrollArea, #list { background: %1; }
     QLabel { color: %2; font-family: Inter; font-size: 15px; background: transparent; }
     QLabel[role="title"] { font-size: 30px; font-weight: 700; }
     QLabel[role="rowTitle"] { font-size: 17px; font-weight: 600; }

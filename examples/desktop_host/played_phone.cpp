@@ -1,0 +1,19 @@
+#include "examples/desktop_host/played_phone.h"
+
+namespace host {
+
+PlayedPhone::PlayedPhone(const qv_commons::Platform& desktop)
+    : desktop_(desktop),
+      platform_{.bundles = desktop.bundles,
+                .files = desktop.files,
+                .console = desktop.console,
+                .device = *this,
+                .languages = *this,
+                .screen = *this,
+                .systemVersion = desktop.systemVersion,
+                .clock = desktop.clock,
+                .application = desktop.application,
+                .mailComposers = desktop.mailComposers,
+                .alerts = desktop.alerts} {}
+
+}  // namespace host
