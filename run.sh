@@ -16,10 +16,11 @@ if [ $host = desktop_host ]; then
   install_packages "${desktop_packages[@]}" "${tour_packages[@]}"
 fi
 
-build=$root/build/release
+build=$root/build/run
 mkdir -p "$build"
 quietly() { "$@" >"$build/run.log" 2>&1 || { cat "$build/run.log"; exit 1; }; }
-quietly cmake -S "$root" --preset release
+quietly cmake -S "$root" --preset release -B "$build" -DQV_COMMONS_TESTS=OFF \
+  -DQV_COMMONS_BENCH=OFF -DQV_COMMONS_FUZZ=OFF
 if [ $host = desktop_host ] && ! grep -q '^QV_COMMONS_HAVE_DESKTOP:.*=ON$' "$build/CMakeCache.txt"; then
   echo "The packages of the desktop are not there: running the tour on the memory adapter."
   host=memory_host
