@@ -3,4 +3,8 @@
 
 #include "qv_commons/app_info/app_info_helper.h"
 #include "qv_commons/platform/platform.h"
+#include "qv_commons/support/links.h"
+#include "qv_commons/support/rate_helper.h"
 #include "qv_commons/support/support_helper.h"
+#include "qv_commons/support/url.h"
+#include "qv_commons/time/time_helper.h"

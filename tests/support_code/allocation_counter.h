@@ -6,8 +6,9 @@
 //     EXPECT_GE(counter.peakBytes(), 1001);
 //
 // A test program that uses it, by linking qv_test_support, has its global `operator new` and
-// `operator delete` replaced. Each counter sees its own thread alone, from the moment it is made;
-// counters may be nested.
+// `operator delete` replaced. The address and thread sanitizers have their own, so there the counts
+// come from them, `malloc` included. Each counter sees its own thread alone, from the moment it is
+// made; counters may be nested.
 #pragma once
 
 #include <cstdint>

@@ -74,18 +74,14 @@ TEST(AllocationCounter, NestsWithoutLosingTheOuterPeak) {
 TEST(AllocationCounter, LeavesOtherThreadsOut) {
   volatile std::size_t length = 1000;
   std::int64_t callsOfTheOther = 0;
-  std::thread other;
-  {
-    AllocationCounter here;
-    other = std::thread([&] {
-      AllocationCounter there;
-      const std::string text = textOf(&length);
-      callsOfTheOther = there.calls();
-    });
-    other.join();
-    EXPECT_LE(here.calls(), 1);  // the thread's own start
-  }
-  EXPECT_EQ(callsOfTheOther, 1);
+  AllocationCounter here;
+  std::thread([&] {
+    AllocationCounter there;
+    for (int i = 0; i < 1000; ++i) textOf(&length);
+    callsOfTheOther = there.calls();
+  }).join();
+  EXPECT_EQ(callsOfTheOther, 1000);
+  EXPECT_LT(here.calls(), 10);  // what starting a thread takes
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "qv_commons/platform/memory/memory_host.h"
 
+#include "qv_commons/support/url.h"
+
 namespace qv_commons::memory {
 
 InfoDictionaryValue MemoryBundle::objectForInfoDictionaryKey(std::string_view key) const {
@@ -65,9 +67,9 @@ double MemoryClock::timeIntervalSince1970() const {
   return now;
 }
 
-void MemoryApplication::openURL(std::string_view url) {
-  record_.add("application.openURL ", url);
-  opened.emplace_back(url);
+void MemoryApplication::openURL(const URL& url) {
+  record_.add("application.openURL ", url.text());
+  opened.push_back(url.text());
 }
 
 }  // namespace qv_commons::memory

@@ -115,9 +115,9 @@ class MemoryApplication final : public Application {
  public:
   explicit MemoryApplication(Record& record) : record_(record) {}
 
-  std::vector<std::string> opened;  // the links, oldest first
+  std::vector<std::string> opened;  // the links' texts, oldest first
 
-  void openURL(std::string_view url) override;
+  void openURL(const URL& url) override;
 
  private:
   Record& record_;
