@@ -2,6 +2,8 @@
 // Application.
 #pragma once
 
+#include "qv_commons/support/url.h"
+
 #include "tests/conformance/adapter.h"
 
 namespace qv_commons::conformance {
@@ -71,9 +73,10 @@ class ApplicationConformance : public Suite {};
 
 TEST_P(ApplicationConformance, HandsALinkToTheSystem) {
   const Platform& current = platform();
-  EXPECT_THAT(
-      adapter().openedBy([&] { current.application.openURL("https://example.com/privacy/"); }),
-      testing::ElementsAre("https://example.com/privacy/"));
+  EXPECT_THAT(adapter().openedBy([&] {
+    current.application.openURL(*URL::parse("https://example.com/privacy/"));
+  }),
+              testing::ElementsAre("https://example.com/privacy/"));
 }
 
 }  // namespace qv_commons::conformance

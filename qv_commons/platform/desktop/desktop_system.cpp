@@ -8,6 +8,7 @@
 #include <cstdio>
 
 #include "qv_commons/platform/desktop/qt_text.h"
+#include "qv_commons/support/url.h"
 
 namespace qv_commons::desktop {
 
@@ -42,8 +43,8 @@ double DesktopClock::timeIntervalSince1970() const {
   return std::chrono::duration<double>(now).count();
 }
 
-void DesktopApplication::openURL(std::string_view url) {
-  QDesktopServices::openUrl(QUrl(fromUtf8(url)));
+void DesktopApplication::openURL(const URL& url) {
+  QDesktopServices::openUrl(QUrl(fromUtf8(url.text())));
 }
 
 }  // namespace qv_commons::desktop

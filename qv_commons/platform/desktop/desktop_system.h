@@ -50,7 +50,7 @@ class DesktopClock final : public Clock {
 
 class DesktopApplication final : public Application {
  public:
-  void openURL(std::string_view url) override;
+  void openURL(const URL& url) override;
 };
 
 }  // namespace qv_commons::desktop
