@@ -8,3 +8,5 @@
 #include "qv_commons/support/support_helper.h"
 #include "qv_commons/support/url.h"
 #include "qv_commons/time/time_helper.h"
+#include "qv_commons/view_utils/search_bar.h"
+#include "qv_commons/view_utils/view_controller_helper.h"
