@@ -1,21 +1,20 @@
 // Base64 has the stated length and alphabet, and reading it back by the definition gives the bytes.
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
 #include <string>
-#include <string_view>
 
 #include "qv_commons/support/base64.h"
 
+#include "fuzz/fuzz.h"
+
 namespace {
+
+using qv_commons::fuzz::check;
 
 unsigned valueOf(char character) {
   if (character >= 'A' && character <= 'Z') return static_cast<unsigned>(character - 'A');
   if (character >= 'a' && character <= 'z') return static_cast<unsigned>(character - 'a') + 26;
   if (character >= '0' && character <= '9') return static_cast<unsigned>(character - '0') + 52;
-  if (character == '+') return 62;
-  if (character == '/') return 63;
-  std::abort();
+  check(character == '+' || character == '/', "only the alphabet is used");
+  return character == '+' ? 62 : 63;
 }
 
 std::string decoded(std::string_view text) {
@@ -29,18 +28,18 @@ std::string decoded(std::string_view text) {
     bits -= 8;
     bytes += static_cast<char>(held >> bits & 0xFF);
   }
-  if ((held & ((1U << bits) - 1)) != 0) std::abort();  // bits left over are zero
+  check((held & ((1U << bits) - 1)) == 0, "bits left over are zero");
   return bytes;
 }
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string_view bytes = qv_commons::fuzz::textOf(data, size);
   const std::string text = qv_commons::base64Encoded(bytes);
-  if (text.size() != (size + 2) / 3 * 4) std::abort();
   const std::size_t padding = (3 - size % 3) % 3;
-  if (text.find('=') != (padding == 0 ? std::string::npos : text.size() - padding)) std::abort();
-  if (decoded(std::string_view(text).substr(0, text.size() - padding)) != bytes) std::abort();
+  check(text.size() == (size + 2) / 3 * 4, "four characters for three bytes begun");
+  check(text.ends_with(std::string_view("==").substr(0, padding)), "the padding fills up");
+  check(decoded(std::string_view(text).substr(0, text.size() - padding)) == bytes, "reads back");
   return 0;
 }
