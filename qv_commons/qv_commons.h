@@ -1,7 +1,15 @@
 // All that is public, for C++ hosts. An app that wants less includes the one header it needs.
 #pragma once
 
+#include "qv_commons/age_gate/age_gate_color_theme.h"
+#include "qv_commons/age_gate/age_gate_decision.h"
+#include "qv_commons/age_gate/age_gate_helper.h"
+#include "qv_commons/age_gate/age_gate_refused_view_controller.h"
+#include "qv_commons/age_gate/age_gate_view_controller.h"
+#include "qv_commons/age_gate/birth_date.h"
+#include "qv_commons/age_gate/policy_links.h"
 #include "qv_commons/app_info/app_info_helper.h"
+#include "qv_commons/app_info/bundle_file_helper.h"
 #include "qv_commons/platform/platform.h"
 #include "qv_commons/support/links.h"
 #include "qv_commons/support/rate_helper.h"

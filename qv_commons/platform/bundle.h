@@ -1,7 +1,8 @@
 // Bundles: the folders that hold an app's or a library's particulars and files.
 //
-//     std::optional<std::string> identifier =
-//         qv_commons::currentPlatform().bundles.mainBundle().bundleIdentifier();
+//     const qv_commons::Bundle& app = qv_commons::currentPlatform().bundles.mainBundle();
+//     std::optional<std::string> identifier = app.bundleIdentifier();
+//     std::optional<qv_commons::FileLocation> words = app.URLForResource("words", "json");
 //
 // Main thread only.
 #pragma once
@@ -41,6 +42,11 @@ class Bundle {
   // Where the store's receipt would be; nothing where the platform names no place. The file need
   // not exist.
   virtual std::optional<FileLocation> appStoreReceiptURL() const = 0;
+
+  // Where the bundle's resource `name` with that extension (without the dot) is; nothing where it
+  // has none.
+  virtual std::optional<FileLocation> URLForResource(std::string_view name,
+                                                     std::string_view extension) const = 0;
 };
 
 class Bundles {
@@ -49,6 +55,12 @@ class Bundles {
 
   // The host app's bundle; the same object at every call.
   virtual const Bundle& mainBundle() const = 0;
+
+  // The bundle that holds the library's own code; the same object at every call.
+  virtual const Bundle& libraryBundle() const = 0;
+
+  // The bundle at `location`; null where it can't be opened.
+  virtual std::shared_ptr<Bundle> bundleWithURL(const FileLocation& location) const = 0;
 };
 
 }  // namespace qv_commons

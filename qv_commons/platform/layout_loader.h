@@ -2,6 +2,16 @@
 //
 // A native screen loads its layout when it is first shown: it connects the outlets by name, the
 // actions by selector name, and then calls `viewDidLoad`.
+//
+//     class Greeting final : public qv_commons::LayoutScreen {
+//      public:
+//       using LayoutScreen::LayoutScreen;
+//       std::weak_ptr<qv_commons::Label> title;
+//
+//       std::vector<qv_commons::Outlet> outlets() override { return {{"title", &title}}; }
+//       std::vector<qv_commons::Action> actions() override { return {}; }
+//       void viewDidLoad() override { title.lock()->setText("Hello"); }
+//     };
 #pragma once
 
 #include <functional>
@@ -50,8 +60,9 @@ class LayoutLoader {
  public:
   virtual ~LayoutLoader() = default;
 
-  // A new screen, not yet loaded, whose views will come from the layout `name` in `bundle`. A
-  // layout that is missing or unreadable is a fatal error, when the screen loads at the latest.
+  // A new screen, not yet loaded, whose views will come from the layout `name` in `bundle`; null
+  // stands for the main bundle. A layout that is missing or unreadable is a fatal error, when the
+  // screen loads at the latest.
   virtual std::shared_ptr<LayoutScreen> initWithNibName(std::string_view name,
                                                         std::shared_ptr<Bundle> bundle,
                                                         const LayoutScreenFactory& make) = 0;

@@ -14,13 +14,16 @@
 #include "qv_commons/platform/alert.h"
 #include "qv_commons/platform/application.h"
 #include "qv_commons/platform/bundle.h"
+#include "qv_commons/platform/calendar.h"
 #include "qv_commons/platform/clock.h"
 #include "qv_commons/platform/console.h"
 #include "qv_commons/platform/device.h"
 #include "qv_commons/platform/files.h"
+#include "qv_commons/platform/layout_loader.h"
 #include "qv_commons/platform/mail_composer.h"
 #include "qv_commons/platform/screen.h"
 #include "qv_commons/platform/system_version.h"
+#include "qv_commons/platform/user_defaults.h"
 
 namespace qv_commons {
 
@@ -33,9 +36,12 @@ struct Platform {
   Screen& screen;
   SystemVersion& systemVersion;
   Clock& clock;
+  Calendar& calendar;
+  UserDefaults& userDefaults;
   Application& application;
   MailComposers& mailComposers;
   Alerts& alerts;
+  LayoutLoader& layoutLoader;
 };
 
 // Makes `platform` the current one until another is installed. It must outlive its installation.

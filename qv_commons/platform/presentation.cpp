@@ -47,6 +47,10 @@ ViewController* PresentationNode::presentingViewController() const {
   return presenter_ == nullptr ? nullptr : &presenter_->controller();
 }
 
+std::shared_ptr<ViewController> PresentationNode::retained() {
+  return {shared_from_this(), &controller()};
+}
+
 // One process has one adapter, so every native that comes in is one of its nodes.
 PresentationNode& PresentationNode::nodeOf(const ViewController& controller) {
   return static_cast<PresentationNode&>(controller.native());

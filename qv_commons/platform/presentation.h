@@ -19,7 +19,8 @@
 
 namespace qv_commons {
 
-class PresentationNode : public NativeViewController {
+class PresentationNode : public NativeViewController,
+                         public std::enable_shared_from_this<PresentationNode> {
  public:
   ~PresentationNode() override;
 
@@ -34,6 +35,9 @@ class PresentationNode : public NativeViewController {
 
   ViewController* presentedViewController() const override;
   ViewController* presentingViewController() const override;
+
+  // Nodes are held by shared pointers.
+  std::shared_ptr<ViewController> retained() override;
 
  protected:
   // The C++ side of this node.

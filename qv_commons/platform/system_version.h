@@ -14,6 +14,10 @@ struct OperatingSystemVersion {
   friend auto operator<=>(const OperatingSystemVersion&, const OperatingSystemVersion&) = default;
 };
 
+// The first version with light and dark looks, and with screens that can be made modal in
+// presentation.
+inline constexpr OperatingSystemVersion kSystemVersion13 = {13, 0, 0};
+
 class SystemVersion {
  public:
   virtual ~SystemVersion() = default;

@@ -55,6 +55,9 @@ class NativeViewController {
 
   virtual ViewControllerKind kind() const = 0;
 
+  // A reference that keeps this controller and its native alive, for as long as it is held.
+  virtual std::shared_ptr<ViewController> retained() = 0;
+
   // A navigation controller's visible controller, a tab bar controller's selected one; null where
   // there is none, and for every other kind.
   virtual ViewController* childViewController() const = 0;
@@ -84,6 +87,7 @@ class ViewController {
   ViewController* presentingViewController() const { return native_.presentingViewController(); }
   ViewControllerKind kind() const { return native_.kind(); }
   ViewController* childViewController() const { return native_.childViewController(); }
+  std::shared_ptr<ViewController> retained() { return native_.retained(); }
 
   // For adapters: the native that was attached.
   NativeViewController& native() const { return native_; }

@@ -20,6 +20,31 @@ std::optional<FileLocation> MemoryBundle::appStoreReceiptURL() const {
   return receiptLocation;
 }
 
+std::optional<FileLocation> MemoryBundle::URLForResource(std::string_view name,
+                                                         std::string_view extension) const {
+  const std::string file = std::string(name).append(".").append(extension);
+  record_.add(name_, ".URLForResource ", file);
+  const auto found = resources.find(file);
+  return found == resources.end() ? std::nullopt : std::optional(found->second);
+}
+
+MemoryBundles::MemoryBundles(Record& record)
+    : record_(record),
+      main_(record, "mainBundle"),
+      library_(record, "libraryBundle"),
+      resources_(std::make_shared<MemoryBundle>(record, "resourceBundle")) {
+  library_.resources["QV_Commons_iOS.bundle"] = "/library/QV_Commons_iOS.bundle";
+  openable["/library/QV_Commons_iOS.bundle"] = resources_;
+  resources_->layouts["QV_AgeGateViewController"] = ageGateLayout();
+  resources_->layouts["QV_AgeGateRefusedViewController"] = ageGateRefusedLayout();
+}
+
+std::shared_ptr<Bundle> MemoryBundles::bundleWithURL(const FileLocation& location) const {
+  record_.add("bundles.bundleWithURL ", location);
+  const auto found = openable.find(location);
+  return found == openable.end() ? nullptr : found->second;
+}
+
 FileContents MemoryFiles::read(const FileLocation& location) const {
   record_.add("files.read ", location);
   const auto found = files.find(location);

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -16,6 +17,7 @@
 #include "qv_commons/platform/console.h"
 #include "qv_commons/platform/device.h"
 #include "qv_commons/platform/files.h"
+#include "qv_commons/platform/memory/memory_layout.h"
 #include "qv_commons/platform/memory/record.h"
 #include "qv_commons/platform/screen.h"
 #include "qv_commons/platform/system_version.h"
@@ -27,13 +29,19 @@ class MemoryBundle final : public Bundle {
   // `name` stands for the bundle in the record's lines.
   MemoryBundle(Record& record, std::string name) : record_(record), name_(std::move(name)) {}
 
+  const std::string& name() const { return name_; }
+
   std::map<std::string, InfoDictionaryValue, std::less<>> info;
   std::optional<std::string> identifier;
   std::optional<FileLocation> receiptLocation;
+  std::map<std::string, FileLocation, std::less<>> resources;  // by name and extension: "a.json"
+  std::map<std::string, MemoryLayout, std::less<>> layouts;    // by name
 
   InfoDictionaryValue objectForInfoDictionaryKey(std::string_view key) const override;
   std::optional<std::string> bundleIdentifier() const override;
   std::optional<FileLocation> appStoreReceiptURL() const override;
+  std::optional<FileLocation> URLForResource(std::string_view name,
+                                             std::string_view extension) const override;
 
  private:
   Record& record_;
@@ -42,13 +50,25 @@ class MemoryBundle final : public Bundle {
 
 class MemoryBundles final : public Bundles {
  public:
-  explicit MemoryBundles(Record& record) : main_(record, "mainBundle") {}
+  // At first the library's bundle has the resource bundle, which holds the layouts of both screens.
+  explicit MemoryBundles(Record& record);
+
+  // By location: what can be opened.
+  std::map<FileLocation, std::shared_ptr<MemoryBundle>, std::less<>> openable;
+
+  MemoryBundle& main() { return main_; }
+  MemoryBundle& library() { return library_; }
+  MemoryBundle& resources() { return *resources_; }
 
   const Bundle& mainBundle() const override { return main_; }
-  MemoryBundle& main() { return main_; }
+  const Bundle& libraryBundle() const override { return library_; }
+  std::shared_ptr<Bundle> bundleWithURL(const FileLocation& location) const override;
 
  private:
+  Record& record_;
   MemoryBundle main_;
+  MemoryBundle library_;
+  std::shared_ptr<MemoryBundle> resources_;
 };
 
 class MemoryFiles final : public Files {

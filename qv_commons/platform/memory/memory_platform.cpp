@@ -13,9 +13,12 @@ MemoryPlatform::MemoryPlatform()
                 .screen = device_,
                 .systemVersion = device_,
                 .clock = clock_,
+                .calendar = calendar_,
+                .userDefaults = userDefaults_,
                 .application = application_,
                 .mailComposers = mail_,
-                .alerts = alerts_} {}
+                .alerts = alerts_,
+                .layoutLoader = layoutLoader_} {}
 
 std::shared_ptr<ViewController> MemoryPlatform::makeViewController(std::string name,
                                                                    ViewControllerKind kind) {

@@ -19,9 +19,12 @@
 #include <memory>
 #include <string>
 
+#include "qv_commons/platform/memory/memory_calendar.h"
 #include "qv_commons/platform/memory/memory_host.h"
 #include "qv_commons/platform/memory/memory_mail.h"
 #include "qv_commons/platform/memory/memory_node.h"
+#include "qv_commons/platform/memory/memory_screen.h"
+#include "qv_commons/platform/memory/memory_user_defaults.h"
 #include "qv_commons/platform/memory/record.h"
 #include "qv_commons/platform/memory/transitions.h"
 #include "qv_commons/platform/platform.h"
@@ -40,14 +43,19 @@ class MemoryPlatform {
   Record& record() { return record_; }
   Transitions& transitions() { return transitions_; }
 
+  MemoryBundles& bundles() { return bundles_; }
   MemoryBundle& mainBundle() { return bundles_.main(); }
+  MemoryBundle& resourceBundle() { return bundles_.resources(); }  // the library's
   MemoryFiles& files() { return files_; }
   MemoryConsole& console() { return console_; }
   MemoryDevice& device() { return device_; }
   MemoryClock& clock() { return clock_; }
+  MemoryCalendar& calendar() { return calendar_; }
+  MemoryUserDefaults& userDefaults() { return userDefaults_; }
   MemoryApplication& application() { return application_; }
   MemoryMail& mail() { return mail_; }
   MemoryAlerts& alerts() { return alerts_; }
+  MemoryLayoutLoader& layoutLoader() { return layoutLoader_; }
 
   // A screen of the host's, of that kind; `name` stands for it in the record.
   std::shared_ptr<ViewController> makeViewController(
@@ -61,9 +69,12 @@ class MemoryPlatform {
   MemoryConsole console_{record_};
   MemoryDevice device_{record_};
   MemoryClock clock_{record_};
+  MemoryCalendar calendar_{record_};
+  MemoryUserDefaults userDefaults_{record_};
   MemoryApplication application_{record_};
   MemoryMail mail_{record_, transitions_};
   MemoryAlerts alerts_{record_, transitions_};
+  MemoryLayoutLoader layoutLoader_{record_, transitions_, application_, bundles_};
   Platform platform_;
 };
 

@@ -1,0 +1,43 @@
+#include "qv_commons/age_gate/age_gate_color_theme.h"
+
+namespace qv_commons {
+namespace {
+
+constexpr Color grey(double level) {
+  return {level, level, level, 1};
+}
+
+constexpr Color kWhite = grey(1);
+constexpr Color kBlack = grey(0);
+
+}  // namespace
+
+QV_AgeGateColorTheme::QV_AgeGateColorTheme(const Color& background, const Color& buttonBackground,
+                                           const Color& buttonText, const Color& text,
+                                           const Color& policiesText)
+    : buttonBGColor(buttonBackground),
+      buttonTextColor(buttonText),
+      backgroundColor(background),
+      textColor(text),
+      policiesTextColor(policiesText) {}
+
+std::shared_ptr<QV_AgeGateColorTheme> QV_AgeGateColorTheme::defaultTheme() {
+  return defaultThemeOf(currentPlatform());
+}
+
+std::shared_ptr<QV_AgeGateColorTheme> defaultThemeFor(bool systemIsAtLeast13, bool styleIsDark) {
+  if (systemIsAtLeast13 && styleIsDark) {
+    return std::make_shared<QV_AgeGateColorTheme>(grey(0.118), kWhite, kBlack, kWhite, grey(0.541));
+  }
+  return std::make_shared<QV_AgeGateColorTheme>(kWhite, kBlack, kWhite, grey(0.29), grey(0.514));
+}
+
+std::shared_ptr<QV_AgeGateColorTheme> defaultThemeOf(const Platform& platform) {
+  const bool systemIsAtLeast13 =
+      platform.systemVersion.isOperatingSystemAtLeastVersion(kSystemVersion13);
+  const bool styleIsDark =
+      systemIsAtLeast13 && platform.screen.userInterfaceStyle() == UserInterfaceStyle::dark;
+  return defaultThemeFor(systemIsAtLeast13, styleIsDark);
+}
+
+}  // namespace qv_commons

@@ -1,0 +1,36 @@
+// What a start of the age gate leads to, decided from its two persisted flags.
+//
+//     using qv_commons::AgeGateStartDecision;
+//     AgeGateStartDecision first = qv_commons::decideAgeGateStart(false, false);  // presentAgeGate
+//     AgeGateStartDecision later = qv_commons::decideAgeGateStart(true, false);   // callCompletion
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "qv_commons/platform/user_defaults.h"
+
+namespace qv_commons {
+
+// True once the user has confirmed a date of birth, whatever came of it.
+inline constexpr std::string_view kAgeGateShownKey = "QV_AgeGate_Shown";
+
+// True once a confirmed date of birth gave an age below the minimum.
+inline constexpr std::string_view kAgeGateBlockedKey = "QV_AgeGate_Blocked";
+
+enum class AgeGateStartDecision : std::uint8_t { presentAgeGate, callCompletion, presentRefused };
+
+// `blocked` counts only where `shown` is true. Any thread.
+constexpr AgeGateStartDecision decideAgeGateStart(bool shown, bool blocked) {
+  if (!shown) return AgeGateStartDecision::presentAgeGate;
+  return blocked ? AgeGateStartDecision::presentRefused : AgeGateStartDecision::callCompletion;
+}
+
+// Reads the flags and decides; the second is read only where the first is true. Main thread.
+inline AgeGateStartDecision decideAgeGateStart(const UserDefaults& userDefaults) {
+  const bool shown = userDefaults.boolForKey(kAgeGateShownKey);
+  const bool blocked = shown && userDefaults.boolForKey(kAgeGateBlockedKey);
+  return decideAgeGateStart(shown, blocked);
+}
+
+}  // namespace qv_commons

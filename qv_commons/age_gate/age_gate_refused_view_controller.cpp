@@ -1,0 +1,59 @@
+#include "qv_commons/age_gate/age_gate_refused_view_controller.h"
+
+#include <optional>
+
+#include "qv_commons/age_gate/app_name_placeholder.h"
+#include "qv_commons/age_gate/policy_links.h"
+#include "qv_commons/age_gate/screen_parts.h"
+#include "qv_commons/app_info/app_info.h"
+
+namespace qv_commons {
+namespace {
+
+void nameTheApp(Label& header, const Bundle& mainBundle) {
+  const std::optional<std::string> text = header.text();
+  if (!text) fatalError("QV_AgeGateRefusedViewController: the header has no text");
+  header.setText(fillInAppName(*text, appNameOf(mainBundle)));
+}
+
+}  // namespace
+
+std::shared_ptr<QV_AgeGateRefusedViewController> QV_AgeGateRefusedViewController::create(
+    const Platform& platform) {
+  return makeScreen<QV_AgeGateRefusedViewController>(platform);
+}
+
+QV_AgeGateRefusedViewController::QV_AgeGateRefusedViewController(NativeViewController& native,
+                                                                 const Platform& platform)
+    : LayoutScreen(native), colorTheme(defaultThemeOf(platform)), platform_(platform) {}
+
+std::vector<Outlet> QV_AgeGateRefusedViewController::outlets() {
+  return {{"bg", &bg}, {"contact", &contact}, {"tos", &tos}, {"header", &header}};
+}
+
+void QV_AgeGateRefusedViewController::viewDidLoad() {
+  const auto panel = connected(*this, bg, "bg");
+  panel->setBackgroundColor(colorTheme->backgroundColor);
+  roundCorners(*panel);
+
+  applyPolicyLinks(*connected(*this, tos, "tos"), privacyLink, termsOfServiceLink, *colorTheme);
+
+  const auto contactText = connected(*this, contact, "contact");
+  applyContactLink(*contactText, *colorTheme);
+  contactText->setDelegate(this);
+
+  const auto heading = connected(*this, header, "header");
+  heading->setTextColor(colorTheme->textColor);
+  nameTheApp(*heading, platform_.bundles.mainBundle());
+}
+
+bool QV_AgeGateRefusedViewController::shouldInteractWithURL(TextView&, std::string_view url,
+                                                            TextRange) {
+  if (url.find(kContactLink) != std::string_view::npos) {
+    // A copy: the host may let go of this screen from it.
+    if (const ContactUsHandler handler = contactUsHandler) handler(*this);
+  }
+  return false;
+}
+
+}  // namespace qv_commons

@@ -1,0 +1,65 @@
+// The refusal: the screen for a user who is under the host app's minimum age.
+//
+// It has no way back to the app. The age gate makes and presents it; by itself, with its defaults:
+//
+//     qv_commons::ScopedPlatform scope(platform.platform());
+//     auto refusal = qv_commons::QV_AgeGateRefusedViewController::create(platform.platform());
+//     refusal->privacyLink = "https://example.com/privacy";
+//     platform.makeViewController("home")->presentViewController(refusal, true, nullptr);
+//
+// Main thread only.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "qv_commons/age_gate/age_gate_color_theme.h"
+#include "qv_commons/age_gate/contact_us_handler.h"
+#include "qv_commons/platform/layout_loader.h"
+#include "qv_commons/platform/platform.h"
+#include "qv_commons/platform/views.h"
+
+namespace qv_commons {
+
+class QV_AgeGateRefusedViewController final : public LayoutScreen, public TextViewDelegate {
+ public:
+  // Also the name of its layout.
+  static constexpr std::string_view kClassName = "QV_AgeGateRefusedViewController";
+
+  // A new screen, not yet loaded, from the layout in the library's resource bundle. `platform` must
+  // outlive it.
+  static std::shared_ptr<QV_AgeGateRefusedViewController> create(const Platform& platform);
+
+  // For adapters: the C++ side of `native`, with every field at its default.
+  QV_AgeGateRefusedViewController(NativeViewController& native, const Platform& platform);
+
+  // Connected by the layout.
+  std::weak_ptr<View> bg;           // the panel
+  std::weak_ptr<TextView> contact;  // the text with the contact link
+  std::weak_ptr<TextView> tos;      // the policy text with its two links
+  std::weak_ptr<Label> header;      // its text holds "[APPNAME]"
+
+  // To be set before the screen loads.
+  std::string privacyLink;
+  std::string termsOfServiceLink;
+  std::shared_ptr<QV_AgeGateColorTheme> colorTheme;  // at first `defaultTheme()`
+  ContactUsHandler contactUsHandler;
+
+  std::vector<Outlet> outlets() override;
+  std::vector<Action> actions() override { return {}; }
+
+  // Dresses the views. An outlet that is not connected, a header without a text, and texts that
+  // don't fit the links are fatal errors.
+  void viewDidLoad() override;
+
+  // A chosen link that contains "mailto" goes to `contactUsHandler`, if there is one. The answer is
+  // always no: the system takes no action of its own.
+  bool shouldInteractWithURL(TextView& textView, std::string_view url, TextRange range) override;
+
+ private:
+  const Platform& platform_;
+};
+
+}  // namespace qv_commons

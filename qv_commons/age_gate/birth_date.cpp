@@ -1,0 +1,21 @@
+#include "qv_commons/age_gate/birth_date.h"
+
+#include <optional>
+
+#include "qv_commons/platform/fatal_error.h"
+
+namespace qv_commons {
+
+std::int64_t ageInYears(double birth, double now, const Calendar& calendar) {
+  const std::optional<std::int64_t> years = calendar.yearsBetween(birth, now);
+  if (!years) fatalError("ageInYears: the calendar gives no years between birth and now");
+  return *years;
+}
+
+AgeGateVerdict judgeBirthDate(double birth, double now, const Calendar& calendar,
+                              std::int64_t minimumAge) {
+  return ageInYears(birth, now, calendar) >= minimumAge ? AgeGateVerdict::allowed
+                                                        : AgeGateVerdict::refused;
+}
+
+}  // namespace qv_commons

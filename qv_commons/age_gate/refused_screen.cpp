@@ -1,0 +1,24 @@
+#include "qv_commons/age_gate/refused_screen.h"
+
+#include <utility>
+
+namespace qv_commons {
+
+std::shared_ptr<QV_AgeGateRefusedViewController> makeRefusedScreen(const Platform& platform,
+                                                                   RefusedScreenContent content,
+                                                                   RefusedScreenLook look) {
+  auto screen = QV_AgeGateRefusedViewController::create(platform);
+  screen->contactUsHandler = std::move(content.contactUsHandler);
+  screen->privacyLink = std::move(content.privacyLink);
+  screen->termsOfServiceLink = std::move(content.termsOfServiceLink);
+  screen->colorTheme = std::move(content.colorTheme);
+  if (platform.systemVersion.isOperatingSystemAtLeastVersion(kSystemVersion13)) {
+    screen->setModalInPresentation(true);
+    if (look == RefusedScreenLook::pinned) {
+      screen->setOverrideUserInterfaceStyle(platform.screen.userInterfaceStyle());
+    }
+  }
+  return screen;
+}
+
+}  // namespace qv_commons

@@ -1,0 +1,43 @@
+// What the age gate's two screens have in common. Not for hosts.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "qv_commons/app_info/resource_bundle.h"
+#include "qv_commons/platform/fatal_error.h"
+#include "qv_commons/platform/platform.h"
+
+namespace qv_commons {
+
+// A new screen from the layout that bears its class's name.
+template <class Screen>
+std::shared_ptr<Screen> makeScreen(const Platform& platform) {
+  return std::static_pointer_cast<Screen>(
+      platform.layoutLoader.initWithNibName(Screen::kClassName, resourceBundleOf(platform.bundles),
+                                            [&platform](NativeViewController& native) {
+                                              return std::make_unique<Screen>(native, platform);
+                                            }));
+}
+
+// The view behind the outlet `name`; a fatal error where it is not connected.
+template <class Screen, class ViewType>
+std::shared_ptr<ViewType> connected(const Screen&, const std::weak_ptr<ViewType>& outlet,
+                                    std::string_view name) {
+  std::shared_ptr<ViewType> view = outlet.lock();
+  if (!view) {
+    fatalError(std::string(Screen::kClassName)
+                   .append(": the outlet \"")
+                   .append(name)
+                   .append("\" is not connected"));
+  }
+  return view;
+}
+
+inline void roundCorners(View& view) {
+  view.setCornerRadius(8);
+  view.setClipsToBounds(true);
+}
+
+}  // namespace qv_commons

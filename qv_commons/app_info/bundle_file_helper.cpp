@@ -1,0 +1,26 @@
+#include "qv_commons/app_info/bundle_file_helper.h"
+
+#include "qv_commons/app_info/resource_bundle.h"
+#include "qv_commons/app_info/utf8.h"
+#include "qv_commons/platform/platform.h"
+
+namespace qv_commons {
+
+std::shared_ptr<Bundle> QV_BundleFileHelper::getQVCommonsResourceBundle() {
+  return resourceBundleOf(currentPlatform().bundles);
+}
+
+std::optional<std::string> QV_BundleFileHelper::loadJsonFromBundle(std::string_view filename) {
+  const Platform& platform = currentPlatform();
+  const std::optional<FileLocation> location =
+      platform.bundles.mainBundle().URLForResource(filename, "json");
+  if (!location) return std::nullopt;
+  FileContents file = platform.files.read(*location);
+  if (file.bytes && isUtf8(*file.bytes)) return std::move(file.bytes);
+  platform.console.print(std::string("QV_BundleFileHelper - Error!! Unable to parse  ")
+                             .append(filename)
+                             .append(".json"));
+  return std::nullopt;
+}
+
+}  // namespace qv_commons

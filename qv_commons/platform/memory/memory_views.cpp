@@ -1,0 +1,53 @@
+#include "qv_commons/platform/memory/memory_views.h"
+
+namespace qv_commons::memory {
+
+std::string textOf(const Color& color) {
+  std::string text;
+  for (const double component : {color.red, color.green, color.blue, color.alpha}) {
+    text.append(text.empty() ? "" : " ").append(DecimalText(component).view());
+  }
+  return text;
+}
+
+std::optional<std::string> MemoryLabel::text() const {
+  note("text");
+  return text_;
+}
+
+void MemoryLabel::setText(const std::string& text) {
+  note("setText ", quoted(text));
+  text_ = text;
+}
+
+void MemoryLabel::setTextColor(const Color& color) {
+  note("setTextColor ", textOf(color));
+  textColor_ = color;
+}
+
+void MemoryButton::setEnabled(bool enabled) {
+  note("setEnabled ", enabled ? "true" : "false");
+  enabled_ = enabled;
+}
+
+void MemoryButton::setTitleColor(const Color& color, ControlState state) {
+  note("setTitleColor ", textOf(color), state == ControlState::normal ? " normal" : " disabled");
+  titleColors_.at(static_cast<std::size_t>(state)) = color;
+}
+
+void MemoryDatePicker::setMaximumDate(std::optional<double> date) {
+  note("setMaximumDate ", date ? DecimalText(*date).view() : "none");
+  maximumDate_ = date;
+}
+
+void MemoryDatePicker::setDate(double date) {
+  note("setDate ", DecimalText(date).view());
+  date_ = date;
+}
+
+double MemoryDatePicker::date() const {
+  note("date");
+  return maximumDate_ && date_ > *maximumDate_ ? *maximumDate_ : date_;
+}
+
+}  // namespace qv_commons::memory
