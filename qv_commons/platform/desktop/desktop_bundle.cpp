@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "qv_commons/platform/desktop/desktop_files.h"
+#include "qv_commons/platform/desktop/resource_search.h"
 
 namespace qv_commons::desktop {
 namespace {
@@ -69,10 +70,13 @@ std::optional<InfoDictionary> parseInfoDictionary(std::string_view bytes) {
   }
 }
 
-DesktopBundle::DesktopBundle(std::string directory, const DesktopContext& context)
+DesktopBundle::DesktopBundle(std::string directory, const DesktopContext& context,
+                             InfoPlist infoPlist)
     : directory_(std::move(directory)) {
   if (directory_.empty()) return;
   const std::string location = directory_ + "/Info.plist";
+  std::error_code ignored;
+  if (infoPlist == InfoPlist::optional && !std::filesystem::exists(location, ignored)) return;
   const FileContents file = DesktopFiles().read(location);
   if (!file.bytes) {
     context.reportError(location + ": " + file.errorDescription);
@@ -102,6 +106,23 @@ std::optional<FileLocation> DesktopBundle::appStoreReceiptURL() const {
   std::error_code ignored;
   if (directory_.empty() || !std::filesystem::is_directory(folder, ignored)) return std::nullopt;
   return folder + "/receipt";
+}
+
+std::optional<FileLocation> DesktopBundle::URLForResource(std::string_view name,
+                                                          std::string_view extension) const {
+  return findResource(directory_, name, extension);
+}
+
+std::optional<FileLocation> LibraryBundle::URLForResource(std::string_view name,
+                                                          std::string_view extension) const {
+  if (!resourceDirectory_.empty()) return findResource(resourceDirectory_, name, extension);
+  return findResourceNextTo(fileOfThisCode(), name, extension);
+}
+
+std::shared_ptr<Bundle> DesktopBundles::bundleWithURL(const FileLocation& location) const {
+  std::error_code ignored;
+  if (!std::filesystem::is_directory(location, ignored)) return nullptr;
+  return std::make_shared<DesktopBundle>(location, context_, DesktopBundle::InfoPlist::optional);
 }
 
 }  // namespace qv_commons::desktop

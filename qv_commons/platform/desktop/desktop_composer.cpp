@@ -1,7 +1,6 @@
 #include "qv_commons/platform/desktop/desktop_composer.h"
 
 #include <QDateTime>
-#include <QStandardPaths>
 #include <QSysInfo>
 #include <QUuid>
 #include <filesystem>
@@ -101,11 +100,7 @@ bool DesktopComposer::keepDraft(MailPurpose purpose) {
 }
 
 std::string DesktopComposer::draftDirectory() const {
-  const std::string& directory = context().settings.dataDirectory;
-  return (directory.empty()
-              ? toUtf8(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation))
-              : directory) +
-         "/drafts";
+  return context().dataDirectory() + "/drafts";
 }
 
 std::string DesktopComposer::draftPath() const {

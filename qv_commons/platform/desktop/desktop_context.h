@@ -2,9 +2,11 @@
 #pragma once
 
 #include <QObject>
+#include <QStandardPaths>
 #include <memory>
 
 #include "qv_commons/platform/desktop/desktop_platform.h"
+#include "qv_commons/platform/desktop/qt_text.h"
 
 namespace qv_commons::desktop {
 
@@ -13,6 +15,12 @@ struct DesktopContext {
 
   // Completions wait in this object's event queue, and go with it.
   QObject transitions;
+
+  // Where what lasts is kept.
+  std::string dataDirectory() const {
+    if (!settings.dataDirectory.empty()) return settings.dataDirectory;
+    return toUtf8(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+  }
 
   void reportError(const std::string& problem) const {
     if (settings.onError) settings.onError(problem);

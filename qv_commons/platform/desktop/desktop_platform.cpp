@@ -7,10 +7,13 @@
 #include "qv_commons/platform/desktop/desktop_bundle.h"
 #include "qv_commons/platform/desktop/desktop_context.h"
 #include "qv_commons/platform/desktop/desktop_files.h"
+#include "qv_commons/platform/desktop/desktop_layout_loader.h"
 #include "qv_commons/platform/desktop/desktop_mail.h"
 #include "qv_commons/platform/desktop/desktop_node.h"
 #include "qv_commons/platform/desktop/desktop_screen.h"
 #include "qv_commons/platform/desktop/desktop_system.h"
+#include "qv_commons/platform/desktop/icu_calendar.h"
+#include "qv_commons/platform/desktop/sqlite_user_defaults.h"
 
 namespace qv_commons::desktop {
 
@@ -29,9 +32,14 @@ struct DesktopPlatform::Parts {
   DesktopScreen screen{context->settings.userInterfaceStyle};
   DesktopSystemVersion systemVersion{context->settings.systemVersion};
   DesktopClock clock;
+  IcuCalendar calendar{context->settings.calendar};
+  SqliteUserDefaults userDefaults{context->dataDirectory(),
+                                  bundles.mainBundle().bundleIdentifier().value_or(""),
+                                  context->settings.onError};
   DesktopApplication application;
   DesktopMail mail{context};
   DesktopAlerts alerts{context};
+  DesktopLayoutLoader layoutLoader{context, {calendar, application, userDefaults}};
   Platform platform{.bundles = bundles,
                     .files = files,
                     .console = console,
@@ -40,9 +48,12 @@ struct DesktopPlatform::Parts {
                     .screen = screen,
                     .systemVersion = systemVersion,
                     .clock = clock,
+                    .calendar = calendar,
+                    .userDefaults = userDefaults,
                     .application = application,
                     .mailComposers = mail,
-                    .alerts = alerts};
+                    .alerts = alerts,
+                    .layoutLoader = layoutLoader};
 };
 
 DesktopPlatform::DesktopPlatform(DesktopSettings settings) {

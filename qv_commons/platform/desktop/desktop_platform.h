@@ -19,6 +19,7 @@
 #include <string>
 #include <vector>
 
+#include "qv_commons/platform/desktop/calendar_settings.h"
 #include "qv_commons/platform/platform.h"
 
 class QWidget;
@@ -30,7 +31,13 @@ struct DesktopSettings {
   // StoreKit, the receipt is expected there as StoreKit/receipt. Empty: a bundle without values.
   std::string bundleDirectory = {};
 
-  // Where what lasts is kept, the drafts in its folder "drafts". Empty: the folder that the system
+  // Where the library's resource bundle is, for a host that keeps it somewhere else than next to
+  // its own program or library. Empty: there, as share/qv_commons/QV_Commons_iOS.bundle of the same
+  // prefix or in the program's own folder.
+  std::string resourceDirectory;
+
+  // Where what lasts is kept, the drafts in its folder "drafts", the user defaults in a file named
+  // after the host's bundle identifier. Empty: the folder that the system
   // has for this app's data, for example ~/.local/share/notes.
   std::string dataDirectory = {};
 
@@ -47,6 +54,9 @@ struct DesktopSettings {
 
   // The version that the library takes the system for; its thresholds are those of iOS.
   OperatingSystemVersion systemVersion = {17, 0, 0};
+
+  // By which dates of birth are picked and judged.
+  CalendarSettings calendar;
 
   // Light or dark; `unspecified` follows the desktop's settings.
   UserInterfaceStyle userInterfaceStyle = UserInterfaceStyle::unspecified;

@@ -1,0 +1,73 @@
+#include "qv_commons/platform/desktop/icu_calendar.h"
+
+#include <cmath>
+#include <cstdlib>
+
+#include "qv_commons/platform/desktop/time_zone.h"
+#include "qv_commons/platform/fatal_error.h"
+
+namespace qv_commons::desktop {
+
+namespace {
+
+constexpr double kMillisecondsPerSecond = 1000;
+
+// A hundred million days, about 273,790 years, to either side of 1970: what ECMAScript's dates
+// allow. ICU loses days, or takes seconds to answer, further out.
+constexpr double kFarthestSecond = 8.64e12;
+
+bool isWithinReach(double date) {
+  return std::abs(date) <= kFarthestSecond;
+}  // false for NaN
+
+icu::Locale localeOf(const std::string& tag) {
+  if (tag.empty()) return icu::Locale::getDefault();
+  UErrorCode status = U_ZERO_ERROR;
+  icu::Locale locale = icu::Locale::forLanguageTag(tag, status);
+  return U_SUCCESS(status) ? locale : icu::Locale::getRoot();
+}
+
+std::string zoneOf(const std::string& name) {
+  if (!name.empty()) return timeZoneIdentifier(name);
+  const char* tz = std::getenv("TZ");
+  return timeZoneIdentifier(tz == nullptr ? std::nullopt : std::optional<std::string>(tz));
+}
+
+}  // namespace
+
+IcuCalendar::IcuCalendar(const CalendarSettings& settings)
+    : locale_(localeOf(settings.locale)),
+      timeZone_(
+          icu::TimeZone::createTimeZone(icu::UnicodeString::fromUTF8(zoneOf(settings.timeZone)))) {}
+
+std::optional<std::int64_t> IcuCalendar::yearsBetween(double from, double to) const {
+  if (!isWithinReach(from) || !isWithinReach(to)) return std::nullopt;
+  const auto calendar = makeCalendar();
+  UErrorCode status = U_ZERO_ERROR;
+  calendar->setTime(from * kMillisecondsPerSecond, status);
+  const std::int32_t years =
+      calendar->fieldDifference(to * kMillisecondsPerSecond, UCAL_YEAR, status);
+  if (U_FAILURE(status)) return std::nullopt;
+  return years;
+}
+
+std::optional<double> IcuCalendar::dateByAddingYears(double date, int years) const {
+  if (!isWithinReach(date)) return std::nullopt;
+  const auto calendar = makeCalendar();
+  UErrorCode status = U_ZERO_ERROR;
+  calendar->setTime(date * kMillisecondsPerSecond, status);
+  calendar->add(UCAL_YEAR, years, status);
+  const double result = calendar->getTime(status) / kMillisecondsPerSecond;
+  if (U_FAILURE(status) || !isWithinReach(result)) return std::nullopt;
+  return result;
+}
+
+std::unique_ptr<icu::Calendar> IcuCalendar::makeCalendar() const {
+  UErrorCode status = U_ZERO_ERROR;
+  std::unique_ptr<icu::Calendar> calendar(
+      icu::Calendar::createInstance(*timeZone_, locale_, status));
+  if (U_FAILURE(status)) fatalError("IcuCalendar: ICU has no calendar; is its data installed?");
+  return calendar;
+}
+
+}  // namespace qv_commons::desktop

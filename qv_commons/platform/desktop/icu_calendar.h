@@ -1,0 +1,32 @@
+// The user's calendar by ICU: the calendar of the locale, in the time zone of the settings.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <unicode/calendar.h>
+#include <unicode/locid.h>
+
+#include "qv_commons/platform/calendar.h"
+#include "qv_commons/platform/desktop/calendar_settings.h"
+
+namespace qv_commons::desktop {
+
+class IcuCalendar final : public Calendar {
+ public:
+  // The locale and the zone are looked up here, once.
+  explicit IcuCalendar(const CalendarSettings& settings = {});
+
+  std::optional<std::int64_t> yearsBetween(double from, double to) const override;
+  std::optional<double> dateByAddingYears(double date, int years) const override;
+
+  // A new calendar at each call: ICU's own is changed by the questions that it is asked.
+  std::unique_ptr<icu::Calendar> makeCalendar() const;
+
+  const icu::Locale& locale() const { return locale_; }
+
+ private:
+  icu::Locale locale_;
+  std::unique_ptr<const icu::TimeZone> timeZone_;
+};
+
+}  // namespace qv_commons::desktop

@@ -1,0 +1,144 @@
+#include "qv_commons/platform/desktop/layout_file.h"
+
+#include <QFile>
+#include <QScrollArea>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QUiLoader>
+#include <algorithm>
+#include <cmath>
+#include <type_traits>
+
+#include "qv_commons/platform/desktop/qt_text.h"
+#include "qv_commons/platform/desktop/thin_scroll_bar.h"
+#include "qv_commons/platform/fatal_error.h"
+
+namespace qv_commons::desktop {
+
+namespace {
+
+constexpr const char* kFontFamily = "Inter";
+constexpr double kLineHeightPercent = 130;
+
+[[noreturn]] void failToLoad(const std::string& path, const QString& problem) {
+  fatalError("the layout " + path + ": " + toUtf8(problem));
+}
+
+class ScreenLoader final : public QUiLoader {
+ public:
+  ScreenLoader(std::string path, const IcuCalendar& calendar)
+      : path_(std::move(path)), calendar_(calendar) {}
+
+  QWidget* createWidget(const QString& className, QWidget* parent, const QString& name) override {
+    QWidget* widget = make(className, parent);
+    if (widget == nullptr) {
+      // Qt would take the class that the unknown one extends, without a word.
+      if (!availableWidgets().contains(className)) failToLoad(path_, "unknown class " + className);
+      return QUiLoader::createWidget(className, parent, name);
+    }
+    widget->setObjectName(name);
+    return widget;
+  }
+
+ private:
+  QWidget* make(const QString& className, QWidget* parent) const {
+    if (className == "WheelDatePicker") return new WheelDatePicker(calendar_, parent);
+    if (className == "ScreenButton") return new ScreenButton(parent);
+    if (className == "LinkTextView") return new LinkTextView(parent);
+    return nullptr;
+  }
+
+  std::string path_;
+  const IcuCalendar& calendar_;
+};
+
+void setFont(QWidget& widget, double textScale) {
+  const QVariant size = widget.property("textSize");
+  if (!size.isValid()) return;
+  QFont font = widget.font();
+  font.setFamilies(QStringList{kFontFamily} + font.families());
+  font.setPixelSize(static_cast<int>(std::lround(size.toInt() * textScale)));
+  const QVariant weight = widget.property("textWeight");
+  if (weight.isValid()) font.setWeight(static_cast<QFont::Weight>(weight.toInt()));
+  widget.setFont(font);
+}
+
+void setUpText(LinkTextView& view) {
+  view.document()->setDefaultFont(view.font());
+  const bool isReversed = view.layoutDirection() == Qt::RightToLeft;
+  for (QTextBlock block = view.document()->begin(); block.isValid(); block = block.next()) {
+    QTextBlockFormat format = block.blockFormat();
+    format.setLineHeight(kLineHeightPercent, QTextBlockFormat::ProportionalHeight);
+    if (format.alignment() != Qt::AlignHCenter) {
+      format.setAlignment(Qt::AlignAbsolute | (isReversed ? Qt::AlignRight : Qt::AlignLeft));
+    }
+    QTextCursor(block).setBlockFormat(format);
+  }
+}
+
+void setUpScrolling(QScrollArea& area) {
+  area.setVerticalScrollBar(new ThinScrollBar(&area));
+  area.viewport()->setAutoFillBackground(false);
+  if (area.widget() != nullptr) area.widget()->setAutoFillBackground(false);
+}
+
+const Action* actionFor(const std::vector<Action>& actions, const QVariant& selector) {
+  const auto found = std::find_if(actions.begin(), actions.end(), [&](const Action& action) {
+    return selector.toString() == fromUtf8(action.selector);
+  });
+  return found == actions.end() ? nullptr : &*found;
+}
+
+// A button's click, a date picker's change by the user.
+void connectAction(QWidget& widget, const Completion& run) {
+  if (auto* button = qobject_cast<QAbstractButton*>(&widget)) {
+    QObject::connect(button, &QAbstractButton::clicked, button, [run] { run(); });
+  }
+  if (auto* picker = qobject_cast<WheelDatePicker*>(&widget)) {
+    QObject::connect(picker, &WheelDatePicker::dateChanged, picker, run);
+  }
+}
+
+}  // namespace
+
+std::unique_ptr<QWidget> loadLayout(const std::string& path, const IcuCalendar& calendar,
+                                    double textScale) {
+  QFile file(QFile::decodeName(path.c_str()));
+  if (!file.open(QIODevice::ReadOnly)) failToLoad(path, file.errorString());
+  ScreenLoader loader(path, calendar);
+  std::unique_ptr<QWidget> root(loader.load(&file));
+  if (!root) failToLoad(path, loader.errorString());
+  for (QScrollArea* area : root->findChildren<QScrollArea*>()) setUpScrolling(*area);
+  for (QWidget* widget : root->findChildren<QWidget*>()) {
+    setFont(*widget, textScale);
+    if (auto* text = qobject_cast<LinkTextView*>(widget)) setUpText(*text);
+  }
+  return root;
+}
+
+std::vector<std::shared_ptr<View>> connectScreen(QWidget& root, LayoutScreen& screen,
+                                                 const LinkOpener& open, const std::string& path) {
+  std::vector<std::shared_ptr<View>> views;
+  for (const Outlet& outlet : screen.outlets()) {
+    auto* widget = root.findChild<QWidget*>(fromUtf8(outlet.name));
+    if (widget == nullptr) continue;
+    views.push_back(makeView(*widget, open));
+    std::visit(
+        [&views](auto* reference) {
+          using ViewType = typename std::remove_pointer_t<decltype(reference)>::element_type;
+          *reference = std::dynamic_pointer_cast<ViewType>(views.back());
+        },
+        outlet.reference);
+  }
+  const std::vector<Action> actions = screen.actions();
+  for (QWidget* widget : root.findChildren<QWidget*>()) {
+    const QVariant selector = widget->property("action");
+    if (!selector.isValid()) continue;
+    const Action* action = actionFor(actions, selector);
+    if (action == nullptr) failToLoad(path, "no action " + selector.toString());
+    connectAction(*widget, action->run);
+  }
+  return views;
+}
+
+}  // namespace qv_commons::desktop

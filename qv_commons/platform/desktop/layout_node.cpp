@@ -1,0 +1,94 @@
+#include "qv_commons/platform/desktop/layout_node.h"
+
+#include <QLabel>
+#include <QLayout>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <utility>
+
+#include "qv_commons/platform/desktop/desktop_style.h"
+#include "qv_commons/platform/desktop/layout_file.h"
+#include "qv_commons/support/url.h"
+
+namespace qv_commons::desktop {
+namespace {
+
+// A panel fills the window of a phone, and stands in the middle of a larger one.
+constexpr int kWidestPhone = 600;
+constexpr int kPanelWidth = 560;
+constexpr int kPanelHeight = 720;
+constexpr int kLeastMargin = 24;
+
+// What is seen around the panel.
+constexpr QRgb kLightGround = 0xffe9e9ee;
+constexpr QRgb kDarkGround = 0xff000000;
+
+}  // namespace
+
+// The layout's root in a window of its own.
+class LayoutNode::ScreenWindow final : public QWidget {
+ public:
+  explicit ScreenWindow(SqliteUserDefaults& userDefaults) : userDefaults_(userDefaults) {
+    column_.setContentsMargins(0, 0, 0, 0);
+  }
+
+  void setContent(std::unique_ptr<QWidget> content) {
+    if (const auto* header = content->findChild<QLabel*>("header")) {
+      setWindowTitle(header->accessibleName());
+    }
+    column_.addWidget(content.release());
+  }
+
+ protected:
+  // Nothing is shown before it is certain to be remembered.
+  void paintEvent(QPaintEvent*) override { userDefaults_.commit(); }
+
+  void resizeEvent(QResizeEvent*) override {
+    const auto margin = [](int length, int panelLength) {
+      return std::max(kLeastMargin, (length - qRound(panelLength * textScale())) / 2);
+    };
+    const bool isPhone = width() <= kWidestPhone;
+    const int beside = isPhone ? 0 : margin(width(), kPanelWidth);
+    const int above = isPhone ? 0 : margin(height(), kPanelHeight);
+    column_.setContentsMargins(beside, above, beside, above);
+  }
+
+ private:
+  SqliteUserDefaults& userDefaults_;
+  QVBoxLayout column_{this};
+};
+
+LayoutNode::LayoutNode(SharedContext context, const ScreenServices& services, std::string path)
+    : DesktopNode(std::move(context)),
+      services_(services),
+      path_(std::move(path)),
+      screenWindow_(std::make_unique<ScreenWindow>(services.userDefaults)) {
+  attachWindow(*screenWindow_);
+}
+
+LayoutNode::~LayoutNode() = default;
+
+void LayoutNode::show(bool animated) {
+  if (!isLoaded_) load();
+  DesktopNode::show(animated);
+}
+
+void LayoutNode::load() {
+  isLoaded_ = true;
+  std::unique_ptr<QWidget> root = loadLayout(path_, services_.calendar, textScale());
+  const LinkOpener open = [&application = services_.application](std::string_view link) {
+    if (const auto url = URL::parse(std::string(link))) application.openURL(*url);
+  };
+  views_ = connectScreen(*root, *screen_, open, path_);
+  screen_->viewDidLoad();
+  screenWindow_->setContent(std::move(root));
+}
+
+void LayoutNode::dress(UserInterfaceStyle style) {
+  const QRgb ground = style == UserInterfaceStyle::dark ? kDarkGround : kLightGround;
+  QPalette palette = screenWindow_->palette();
+  palette.setColor(QPalette::Window, QColor::fromRgb(ground));
+  screenWindow_->setPalette(palette);
+}
+
+}  // namespace qv_commons::desktop

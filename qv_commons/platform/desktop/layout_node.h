@@ -1,0 +1,49 @@
+// The native side of the library's screens: a window whose views come from a layout.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "qv_commons/platform/desktop/desktop_node.h"
+#include "qv_commons/platform/desktop/icu_calendar.h"
+#include "qv_commons/platform/desktop/sqlite_user_defaults.h"
+#include "qv_commons/platform/layout_loader.h"
+
+namespace qv_commons::desktop {
+
+// What the screens need of the platform; all of it outlives them.
+struct ScreenServices {
+  const IcuCalendar& calendar;
+  Application& application;  // opens links
+  SqliteUserDefaults& userDefaults;
+};
+
+class LayoutNode final : public DesktopNode {
+ public:
+  // `path` is the layout file. It is read when the screen is first shown.
+  LayoutNode(SharedContext context, const ScreenServices& services, std::string path);
+  ~LayoutNode() override;
+
+  void setScreen(std::unique_ptr<LayoutScreen> screen) { screen_ = std::move(screen); }
+  LayoutScreen& screen() { return *screen_; }
+
+ protected:
+  ViewController& controller() override { return *screen_; }
+  void show(bool animated) override;
+  void dress(UserInterfaceStyle style) override;
+
+ private:
+  class ScreenWindow;
+
+  void load();
+
+  ScreenServices services_;
+  std::string path_;
+  std::unique_ptr<ScreenWindow> screenWindow_;
+  std::vector<std::shared_ptr<View>> views_;  // gone before the widgets that they refer to
+  std::unique_ptr<LayoutScreen> screen_;
+  bool isLoaded_ = false;
+};
+
+}  // namespace qv_commons::desktop

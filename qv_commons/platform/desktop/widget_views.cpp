@@ -1,0 +1,145 @@
+#include "qv_commons/platform/desktop/widget_views.h"
+
+#include <QPointer>
+#include <QTextCursor>
+#include <algorithm>
+#include <utility>
+
+#include "qv_commons/platform/desktop/qt_text.h"
+
+namespace qv_commons::desktop {
+
+namespace {
+
+// Without a text of its own direction, a line begins where the screen's lines begin.
+QString alignmentOf(const QWidget& widget, Qt::Alignment alignment) {
+  if ((alignment & Qt::AlignHCenter) != 0) return "center";
+  return widget.layoutDirection() == Qt::RightToLeft ? "right" : "left";
+}
+
+QString toHtml(const QLabel& label, const QString& text) {
+  const QString direction = text.isRightToLeft() ? "rtl" : "ltr";
+  return QStringLiteral("<p dir='%1' align='%2' style='margin:0; line-height:130%'>%3</p>")
+      .arg(direction, alignmentOf(label, label.alignment()), text.toHtmlEscaped());
+}
+
+void setColor(QWidget& widget, QPalette::ColorGroup group, QPalette::ColorRole role,
+              const QColor& color) {
+  QPalette palette = widget.palette();
+  palette.setColor(group, role, color);
+  widget.setPalette(palette);
+}
+
+}  // namespace
+
+QColor toQColor(const Color& color) {
+  const auto part = [](double value) { return static_cast<float>(std::clamp(value, 0.0, 1.0)); };
+  return QColor::fromRgbF(part(color.red), part(color.green), part(color.blue), part(color.alpha));
+}
+
+LabelView::LabelView(QLabel& label) : WidgetView(label), label_(label), text_(label.text()) {
+  show();
+}
+
+std::optional<std::string> LabelView::text() const {
+  if (text_.isNull()) return std::nullopt;
+  return toUtf8(text_);
+}
+
+void LabelView::setText(const std::string& text) {
+  text_ = text.empty() ? QStringLiteral("") : fromUtf8(text);
+  show();
+}
+
+void LabelView::setTextColor(const Color& color) {
+  setColor(label_, QPalette::All, QPalette::WindowText, toQColor(color));
+}
+
+void LabelView::show() {
+  label_.setTextFormat(Qt::RichText);
+  label_.setText(text_.isEmpty() ? QString() : toHtml(label_, text_));
+  label_.setAccessibleName(text_);
+}
+
+void ButtonView::setTitleColor(const Color& color, ControlState state) {
+  const QColor title = toQColor(color);
+  if (state == ControlState::disabled) {
+    setColor(button_, QPalette::Disabled, QPalette::ButtonText, title);
+    return;
+  }
+  setColor(button_, QPalette::Active, QPalette::ButtonText, title);
+  setColor(button_, QPalette::Inactive, QPalette::ButtonText, title);
+}
+
+LinkedTextView::LinkedTextView(LinkTextView& widget, LinkOpener open)
+    : WidgetView(widget), widget_(widget), open_(std::move(open)) {
+  QObject::connect(&widget, &QTextBrowser::anchorClicked, &widget,
+                   [this](const QUrl& place) { follow(place); });
+}
+
+std::unique_ptr<AttributedString> LinkedTextView::attributedText() const {
+  return std::make_unique<DocumentText>(*widget_.document(), links_);
+}
+
+void LinkedTextView::setAttributedText(const AttributedString& text) {
+  const auto& own = static_cast<const DocumentText&>(text);
+  QTextDocument* copy = own.document().clone(&widget_);
+  copy->setDefaultFont(widget_.font());
+  copy->setDocumentMargin(0);
+  const QPointer<QTextDocument> before = widget_.document();
+  widget_.setDocument(copy);
+  delete before;  // unless it was the first, which Qt deletes itself
+  links_ = own.links();
+  paintLinks();
+}
+
+void LinkedTextView::setLinkTextAttributes(const Color& foreground) {
+  linkColor_ = toQColor(foreground);
+  paintLinks();
+}
+
+void LinkedTextView::setTextColor(const Color& color) {
+  QTextCharFormat format;
+  format.setForeground(toQColor(color));
+  QTextCursor all(widget_.document());
+  all.select(QTextCursor::Document);
+  all.mergeCharFormat(format);
+  setColor(widget_, QPalette::All, QPalette::Text, toQColor(color));
+  paintLinks();
+}
+
+void LinkedTextView::paintLinks() {
+  if (!linkColor_.isValid()) return;
+  QTextCharFormat format;
+  format.setForeground(linkColor_);
+  for (const LinkRun& link : links_) {
+    cursorAt(*widget_.document(), link.range).mergeCharFormat(format);
+  }
+}
+
+void LinkedTextView::follow(const QUrl& place) {
+  bool isOurs = false;
+  const std::size_t number = place.toString().toULong(&isOurs);
+  if (!isOurs || number >= links_.size()) return;
+  const LinkRun link = links_[number];  // the delegate may take the screen away
+  const LinkOpener open = open_;
+  if (delegate_ == nullptr || delegate_->shouldInteractWithURL(*this, link.value, link.range)) {
+    open(link.value);
+  }
+}
+
+std::shared_ptr<View> makeView(QWidget& widget, const LinkOpener& open) {
+  if (auto* picker = qobject_cast<WheelDatePicker*>(&widget)) {
+    return std::make_shared<PickerView>(*picker);
+  }
+  if (auto* text = qobject_cast<LinkTextView*>(&widget)) {
+    return std::make_shared<LinkedTextView>(*text, open);
+  }
+  if (auto* button = qobject_cast<ScreenButton*>(&widget)) {
+    return std::make_shared<ButtonView>(*button);
+  }
+  if (auto* label = qobject_cast<QLabel*>(&widget)) return std::make_shared<LabelView>(*label);
+  return std::make_shared<PanelView>(widget);
+}
+
+}  // namespace qv_commons::desktop

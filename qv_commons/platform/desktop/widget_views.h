@@ -1,0 +1,103 @@
+// The views of the library's screens over Qt's widgets.
+//
+// A view refers to its widget, which must outlive it, and is made once for each.
+#pragma once
+
+#include <QLabel>
+#include <functional>
+#include <memory>
+
+#include "qv_commons/platform/desktop/backdrop.h"
+#include "qv_commons/platform/desktop/document_text.h"
+#include "qv_commons/platform/desktop/link_text_view.h"
+#include "qv_commons/platform/desktop/screen_button.h"
+#include "qv_commons/platform/desktop/wheel_date_picker.h"
+#include "qv_commons/platform/views.h"
+
+namespace qv_commons::desktop {
+
+QColor toQColor(const Color& color);
+
+// What all views have in common.
+template <typename Interface>
+class WidgetView : public Interface {
+ public:
+  explicit WidgetView(QWidget& widget) : backdrop_(*new Backdrop(widget)) {}
+
+  void setBackgroundColor(const Color& color) override { backdrop_.setColor(toQColor(color)); }
+  void setCornerRadius(double points) override { backdrop_.setCornerRadius(points); }
+  void setClipsToBounds(bool clips) override { backdrop_.setClipsToBounds(clips); }
+
+ private:
+  Backdrop& backdrop_;
+};
+
+using PanelView = WidgetView<View>;
+
+class LabelView final : public WidgetView<Label> {
+ public:
+  // Takes over the label's text.
+  explicit LabelView(QLabel& label);
+
+  std::optional<std::string> text() const override;
+  void setText(const std::string& text) override;
+  void setTextColor(const Color& color) override;
+
+ private:
+  void show();
+
+  QLabel& label_;
+  QString text_;
+};
+
+class ButtonView final : public WidgetView<Button> {
+ public:
+  explicit ButtonView(ScreenButton& button) : WidgetView(button), button_(button) {}
+
+  void setEnabled(bool enabled) override { button_.setEnabled(enabled); }
+  void setTitleColor(const Color& color, ControlState state) override;
+
+ private:
+  ScreenButton& button_;
+};
+
+class PickerView final : public WidgetView<DatePicker> {
+ public:
+  explicit PickerView(WheelDatePicker& picker) : WidgetView(picker), picker_(picker) {}
+
+  void setMaximumDate(std::optional<double> date) override { picker_.setMaximumDate(date); }
+  void setDate(double date) override { picker_.setDate(date); }
+  double date() const override { return picker_.date(); }
+
+ private:
+  WheelDatePicker& picker_;
+};
+
+// Opens a link with the system; what is no URL comes to nothing.
+using LinkOpener = std::function<void(std::string_view link)>;
+
+class LinkedTextView final : public WidgetView<TextView> {
+ public:
+  LinkedTextView(LinkTextView& widget, LinkOpener open);
+
+  std::unique_ptr<AttributedString> attributedText() const override;
+  void setAttributedText(const AttributedString& text) override;
+  void setLinkTextAttributes(const Color& foreground) override;
+  void setTextColor(const Color& color) override;
+  void setDelegate(TextViewDelegate* delegate) override { delegate_ = delegate; }
+
+ private:
+  void follow(const QUrl& place);
+  void paintLinks();
+
+  LinkTextView& widget_;
+  LinkOpener open_;
+  std::vector<LinkRun> links_;
+  QColor linkColor_;
+  TextViewDelegate* delegate_ = nullptr;
+};
+
+// The view that goes with the widget's class.
+std::shared_ptr<View> makeView(QWidget& widget, const LinkOpener& open);
+
+}  // namespace qv_commons::desktop

@@ -1,0 +1,290 @@
+#include <QCoreApplication>
+#include <QTemporaryDir>
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <memory>
+#include <sqlite3.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+#include "qv_commons/platform/desktop/sqlite_user_defaults.h"
+
+#include "tests/desktop/watched_sqlite.h"
+
+namespace qv_commons::desktop {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+constexpr const char* kShown = "QV_AgeGate_Shown";
+constexpr const char* kBlocked = "QV_AgeGate_Blocked";
+
+class UserDefaultsTest : public testing::Test {
+ protected:
+  SqliteUserDefaults::ErrorHandler recorder() {
+    return [this](const std::string& error) { errors_.push_back(error); };
+  }
+  std::unique_ptr<SqliteUserDefaults> start() {
+    return std::make_unique<SqliteUserDefaults>(folder_, "com.example.notes", recorder());
+  }
+  void refuse() {
+    const auto defaults = start();
+    defaults->setBool(true, kShown);
+    defaults->setBool(true, kBlocked);
+  }
+  fs::path file() const { return fs::path(folder_) / "com.example.notes.defaults"; }
+  std::string read(const fs::path& path) const {
+    std::ifstream stream(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+  }
+  void write(const std::string& bytes) const {
+    fs::create_directories(folder_);
+    std::ofstream(file(), std::ios::binary) << bytes;
+  }
+
+  QTemporaryDir temporary_;
+  std::string folder_ = temporary_.path().toStdString() + "/data/notes";
+  std::vector<std::string> errors_;
+};
+
+TEST_F(UserDefaultsTest, AreFalseAndMakeNoFileUntilSomethingIsWritten) {
+  EXPECT_FALSE(start()->boolForKey(kShown));
+  EXPECT_FALSE(fs::exists(folder_));
+  EXPECT_THAT(errors_, IsEmpty());
+}
+
+TEST_F(UserDefaultsTest, AreVisibleAtOnceAndOnTheDiskAfterTheNextTurnOfTheEventLoop) {
+  const auto defaults = start();
+  defaults->setBool(true, kShown);
+  EXPECT_TRUE(defaults->boolForKey(kShown));
+  EXPECT_FALSE(start()->boolForKey(kShown));
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(start()->boolForKey(kShown));
+}
+
+TEST_F(UserDefaultsTest, CommitWhatOneTurnWroteInOneTransaction) {
+  const WatchedSqlite watched;
+  const auto defaults = start();
+  defaults->setBool(true, kShown);
+  defaults->setBool(true, kBlocked);
+  QCoreApplication::processEvents();
+  const std::string insert = "INSERT OR REPLACE INTO bools VALUES (?1, ?2)";
+  EXPECT_THAT(watched.statements(),
+              ElementsAre("PRAGMA synchronous = FULL", "BEGIN IMMEDIATE",
+                          HasSubstr("CREATE TABLE IF NOT EXISTS bools"), insert, insert, "COMMIT"));
+}
+
+TEST_F(UserDefaultsTest, KeepFalseAndOverwrite) {
+  const auto defaults = start();
+  defaults->setBool(true, kShown);
+  defaults->setBool(false, kShown);
+  EXPECT_FALSE(defaults->boolForKey(kShown));
+  defaults->commit();
+  EXPECT_FALSE(start()->boolForKey(kShown));
+}
+
+TEST_F(UserDefaultsTest, AreWrittenWhenTheApplicationQuits) {
+  const auto defaults = start();
+  defaults->setBool(true, kShown);
+  QMetaObject::invokeMethod(QCoreApplication::instance(), "aboutToQuit");
+  EXPECT_TRUE(start()->boolForKey(kShown));
+}
+
+TEST_F(UserDefaultsTest, AreForTheUserAlone) {
+  const mode_t before = umask(0);
+  refuse();
+  umask(before);
+  struct stat file_status {};
+  struct stat folder_status {};
+  ASSERT_EQ(stat(file().c_str(), &file_status), 0);
+  ASSERT_EQ(stat(folder_.c_str(), &folder_status), 0);
+  EXPECT_EQ(file_status.st_mode & 0777, 0600U);
+  EXPECT_EQ(folder_status.st_mode & 0777, 0700U);
+}
+
+TEST_F(UserDefaultsTest, NameTheFileAfterTheHostWhateverItIsCalled) {
+  for (const std::string identifier : {"../evil", "", "a/b"}) {
+    SqliteUserDefaults defaults(folder_, identifier, recorder());
+    defaults.setBool(true, kShown);
+  }
+  std::vector<std::string> names;
+  for (const auto& entry : fs::directory_iterator(folder_))
+    names.push_back(entry.path().filename());
+  EXPECT_THAT(
+      names, testing::UnorderedElementsAre(".._evil.defaults", "unnamed.defaults", "a_b.defaults"));
+}
+
+TEST_F(UserDefaultsTest, AStartThatOnlyReadsOpensOneFileRunsTwoReadsAndWritesNothing) {
+  refuse();
+  const WatchedSqlite watched;
+  const auto defaults = start();
+  EXPECT_TRUE(defaults->boolForKey(kShown));
+  EXPECT_TRUE(defaults->boolForKey(kBlocked));
+  EXPECT_THAT(watched.statements(),
+              ElementsAre("SELECT key, value FROM bools", "SELECT key, value FROM bools"));
+  EXPECT_EQ(watched.traffic().opens, 1);
+  EXPECT_EQ(watched.traffic().writes, 0);
+}
+
+TEST_F(UserDefaultsTest, SetADamagedFileAsideAndNeverOverwriteAnEarlierOne) {
+  write("not a database, but long enough to be taken for the header of one, and then some.......");
+  EXPECT_FALSE(start()->boolForKey(kShown));
+  write("damaged again, and again long enough to be taken for the header of one, and then some...");
+  EXPECT_FALSE(start()->boolForKey(kBlocked));
+  EXPECT_THAT(read(file().string() + ".damaged-1"), HasSubstr("not a database"));
+  EXPECT_THAT(read(file().string() + ".damaged-2"), HasSubstr("damaged again"));
+  EXPECT_FALSE(fs::exists(file()));
+  EXPECT_THAT(errors_, ElementsAre("The settings in " + file().string() +
+                                       ": it was damaged and has been set aside",
+                                   "The settings in " + file().string() +
+                                       ": it was damaged and has been set aside"));
+}
+
+TEST_F(UserDefaultsTest, GoOnWithANewFileAfterDamageFoundWhileWriting) {
+  write("not a database, but long enough to be taken for the header of one, and then some.......");
+  refuse();
+  EXPECT_TRUE(start()->boolForKey(kShown));
+  EXPECT_TRUE(start()->boolForKey(kBlocked));
+  EXPECT_TRUE(fs::exists(file().string() + ".damaged-1"));
+}
+
+TEST_F(UserDefaultsTest, NeverLetARefusedUserThroughWhateverIsCutOff) {
+  refuse();
+  const std::string whole = read(file());
+  ASSERT_GT(whole.size(), 4096U);
+  for (std::size_t size = 0; size < whole.size(); size += 97) {
+    write(whole.substr(0, size));
+    const auto defaults = start();
+    EXPECT_FALSE(defaults->boolForKey(kShown) && !defaults->boolForKey(kBlocked)) << size;
+  }
+}
+
+TEST_F(UserDefaultsTest, ReportAFolderThatCannotBeWrittenAndGoOn) {
+  std::ofstream(temporary_.path().toStdString() + "/data") << "a file in the folder's place";
+  const auto defaults = start();
+  defaults->setBool(true, kShown);
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(defaults->boolForKey(kShown));
+  EXPECT_THAT(errors_, ElementsAre(HasSubstr("Not a directory")));
+}
+
+TEST_F(UserDefaultsTest, KeepWhatTheDiskHadNoRoomForAndWriteItWithTheNext) {
+  std::signal(SIGXFSZ, SIG_IGN);
+  const auto defaults = start();
+  rlimit before{};
+  getrlimit(RLIMIT_FSIZE, &before);
+  const rlimit none{0, before.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &none);
+  defaults->setBool(true, kShown);
+  QCoreApplication::processEvents();
+  setrlimit(RLIMIT_FSIZE, &before);
+  EXPECT_FALSE(errors_.empty());
+  EXPECT_TRUE(defaults->boolForKey(kShown));
+
+  defaults->setBool(true, kBlocked);
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(start()->boolForKey(kShown));
+  EXPECT_TRUE(start()->boolForKey(kBlocked));
+}
+
+TEST_F(UserDefaultsTest, WaitForAnotherProcessThatIsWriting) {
+  refuse();
+  sqlite3* other = nullptr;
+  ASSERT_EQ(sqlite3_open(file().c_str(), &other), SQLITE_OK);
+  ASSERT_EQ(sqlite3_exec(other, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
+  std::thread release([other] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(150));
+    sqlite3_exec(other, "COMMIT", nullptr, nullptr, nullptr);
+  });
+  EXPECT_TRUE(start()->boolForKey(kBlocked));
+  release.join();
+  sqlite3_close(other);
+  EXPECT_THAT(errors_, IsEmpty());
+}
+
+// What the child processes below run; nothing of the parent's may be used.
+template <typename Body>
+pid_t inChild(Body body) {
+  const pid_t child = fork();
+  if (child != 0) return child;
+  body();
+  _exit(0);
+}
+
+TEST_F(UserDefaultsTest, LoseNothingOfFourProcessesAtOnce) {
+  constexpr int kProcesses = 4;
+  constexpr int kKeys = 50;
+  std::vector<pid_t> children;
+  for (int process = 0; process < kProcesses; ++process) {
+    children.push_back(inChild([&] {
+      SqliteUserDefaults defaults(folder_, "com.example.notes", nullptr);
+      for (int key = 0; key < kKeys; ++key) {
+        defaults.setBool(true, std::to_string(process) + ":" + std::to_string(key));
+        defaults.commit();
+      }
+    }));
+  }
+  for (const pid_t child : children) waitpid(child, nullptr, 0);
+  const auto defaults = start();
+  int kept = 0;
+  for (int process = 0; process < kProcesses; ++process) {
+    for (int key = 0; key < kKeys; ++key) {
+      kept += defaults->boolForKey(std::to_string(process) + ":" + std::to_string(key)) ? 1 : 0;
+    }
+  }
+  EXPECT_EQ(kept, kProcesses * kKeys);
+}
+
+TEST_F(UserDefaultsTest, LoseNothingOfFourProcessesThatFindTheFileDamagedAtOnce) {
+  write("not a database, but long enough to be taken for the header of one, and then some.......");
+  std::vector<pid_t> children;
+  for (int process = 0; process < 4; ++process) {
+    children.push_back(inChild([&] {
+      SqliteUserDefaults defaults(folder_, "com.example.notes", nullptr);
+      defaults.boolForKey(kShown);
+      defaults.setBool(true, std::to_string(process));
+    }));
+  }
+  for (const pid_t child : children) waitpid(child, nullptr, 0);
+  const auto defaults = start();
+  for (const char* key : {"0", "1", "2", "3"}) EXPECT_TRUE(defaults->boolForKey(key)) << key;
+  EXPECT_TRUE(fs::exists(file().string() + ".damaged-1"));
+  EXPECT_FALSE(fs::exists(file().string() + ".damaged-2"));
+}
+
+// Killed before each change of a file that a refusal makes, one after the other.
+TEST_F(UserDefaultsTest, AreBothThereOrNeitherWhereverTheProcessIsKilled) {
+  bool wasKilled = true;
+  int change = 0;
+  for (; wasKilled; ++change) {
+    fs::remove_all(folder_);
+    const pid_t child = inChild([&] {
+      WatchedSqlite watched;
+      watched.killAtChange(change);
+      SqliteUserDefaults defaults(folder_, "com.example.notes", nullptr);
+      defaults.setBool(true, kShown);
+      defaults.setBool(true, kBlocked);
+      defaults.commit();
+    });
+    int status = 0;
+    waitpid(child, &status, 0);
+    wasKilled = WIFSIGNALED(status);
+    const auto defaults = start();
+    EXPECT_EQ(defaults->boolForKey(kShown), defaults->boolForKey(kBlocked)) << change;
+    EXPECT_TRUE(wasKilled || defaults->boolForKey(kBlocked)) << change;
+  }
+  EXPECT_GT(change, 6);
+  EXPECT_THAT(errors_, IsEmpty());
+}
+
+}  // namespace
+}  // namespace qv_commons::desktop

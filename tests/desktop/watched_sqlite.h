@@ -1,0 +1,30 @@
+// Watches what SQLite does with its files, and can end the process in the middle of it.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace qv_commons::desktop {
+
+struct FileTraffic {
+  int opens = 0;
+  int reads = 0;
+  int writes = 0;  // whatever changes a file: write, truncate, sync, delete
+};
+
+// While it lives, every SQLite file that is opened is watched.
+class WatchedSqlite {
+ public:
+  WatchedSqlite();
+  ~WatchedSqlite();
+  WatchedSqlite(const WatchedSqlite&) = delete;
+  WatchedSqlite& operator=(const WatchedSqlite&) = delete;
+
+  FileTraffic traffic() const;
+  std::vector<std::string> statements() const;  // that were run
+
+  // Kills this process with SIGKILL just before the change of that number, from 0.
+  void killAtChange(int number);
+};
+
+}  // namespace qv_commons::desktop
