@@ -12,8 +12,11 @@ PlayedPhone::PlayedPhone(const qv_commons::Platform& desktop)
                 .screen = *this,
                 .systemVersion = desktop.systemVersion,
                 .clock = desktop.clock,
+                .calendar = desktop.calendar,
+                .userDefaults = desktop.userDefaults,
                 .application = desktop.application,
                 .mailComposers = desktop.mailComposers,
-                .alerts = desktop.alerts} {}
+                .alerts = desktop.alerts,
+                .layoutLoader = desktop.layoutLoader} {}
 
 }  // namespace host
