@@ -12,19 +12,23 @@ constexpr QSize kSmallestPhone(320, 568);
 constexpr int kMargin = 20;
 constexpr int kRowPadding = 16;
 
-QLabel* makeLabel(const QString& text, const char* role, QWidget* parent) {
-  auto* label = new QLabel(text, parent);
-  label->setProperty("role", role);
-  label->setWordWrap(true);
-  return label;
+// `content` in a column that scrolls where it is too tall.
+QScrollArea* scrolling(QWidget* content) {
+  content->setProperty("role", "page");
+  auto* scroll = new QScrollArea;
+  scroll->setWidget(content);
+  scroll->setWidgetResizable(true);
+  scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  scroll->setFocusPolicy(Qt::NoFocus);
+  return scroll;
 }
 
-// `label` between the window's side margins.
-QLayout* inset(QLabel* label) {
-  auto* row = new QVBoxLayout;
-  row->setContentsMargins(kMargin, 0, kMargin, 0);
-  row->addWidget(label);
-  return row;
+QVBoxLayout* pageLayout(QWidget* page) {
+  auto* layout = new QVBoxLayout(page);
+  layout->setContentsMargins(kMargin, 28, kMargin, 0);
+  layout->setSpacing(12);
+  return layout;
 }
 
 // A button as tall as the texts in it, which wrap.
@@ -56,36 +60,47 @@ class ServiceRow final : public QPushButton {
 
 }  // namespace
 
-HostWindow::HostWindow(const QString& appName) {
+QLabel* makeLabel(const QString& text, const char* role, QWidget* parent) {
+  auto* label = new QLabel(text, parent);
+  label->setTextFormat(Qt::PlainText);
+  label->setProperty("role", role);
+  label->setWordWrap(true);
+  return label;
+}
+
+HostWindow::HostWindow(const QString& appName, bool dark)
+    : pages_(new QStackedWidget), status_(makeLabel("", "status", this)) {
   setObjectName("host");
   setWindowTitle(appName);
   resize(kPhone);
   setMinimumSize(kSmallestPhone);
+  pages_->addWidget(makeList(appName));
+  status_->setObjectName("status");
 
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, kMargin);
+  column->setSpacing(12);
+  column->addWidget(pages_, 1);
+  auto* statusRow = new QVBoxLayout;
+  statusRow->setContentsMargins(kMargin, 0, kMargin, 0);
+  statusRow->addWidget(status_);
+  column->addLayout(statusRow);
+  dress(dark);
+}
+
+QWidget* HostWindow::makeList(const QString& appName) {
   auto* list = new QWidget;
-  list->setObjectName("list");
   services_ = new QVBoxLayout(list);
-  services_->setContentsMargins(kMargin, 0, kMargin, kMargin);
+  services_->setContentsMargins(0, 0, 0, 0);
   services_->setSpacing(10);
   services_->addStretch();
 
-  auto* scroll = new QScrollArea;
-  scroll->setWidget(list);
-  scroll->setWidgetResizable(true);
-  scroll->setFrameShape(QFrame::NoFrame);
-  scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  scroll->setFocusPolicy(Qt::NoFocus);
-
-  status_ = makeLabel("", "status", this);
-  status_->setObjectName("status");
-
-  auto* page = new QVBoxLayout(this);
-  page->setContentsMargins(0, 28, 0, kMargin);
-  page->setSpacing(12);
-  page->addLayout(inset(makeLabel(appName, "title", this)));
-  page->addWidget(scroll, 1);
-  page->addLayout(inset(status_));
-  dress();
+  auto* page = new QWidget;
+  page->setObjectName("home");
+  auto* layout = pageLayout(page);
+  layout->addWidget(makeLabel(appName, "title"));
+  layout->addWidget(scrolling(list), 1);
+  return page;
 }
 
 QPushButton* HostWindow::addService(const QString& name, const QString& title,
@@ -97,26 +112,66 @@ QPushButton* HostWindow::addService(const QString& name, const QString& title,
   return row;
 }
 
+void HostWindow::addPage(const QString& name, const QString& title, const QString& explanation,
+                         QWidget* content) {
+  auto* page = new QWidget;
+  auto* layout = pageLayout(page);
+  auto* back = new QPushButton("‹ Back");
+  back->setObjectName("back");
+  back->setAccessibleName("Back");
+  back->setProperty("role", "back");
+  connect(back, &QPushButton::clicked, this, &HostWindow::goHome);
+  layout->addWidget(back, 0, Qt::AlignLeading);
+  layout->addWidget(makeLabel(title, "title"));
+  layout->addWidget(scrolling(content), 1);
+  addBarePage(name, title, explanation, page);
+}
+
+void HostWindow::addBarePage(const QString& name, const QString& title, const QString& explanation,
+                             QWidget* page) {
+  page->setObjectName(name + "Page");
+  pages_->addWidget(page);
+  addService(name, title, explanation, [this, page] {
+    say("");
+    pages_->setCurrentWidget(page);
+  });
+}
+
+void HostWindow::goHome() {
+  pages_->setCurrentIndex(0);
+}
+
 void HostWindow::say(const QString& text) {
   status_->setText(text);
   QAccessibleEvent changed(status_, QAccessible::NameChanged);
   QAccessible::updateAccessibility(&changed);
 }
 
-void HostWindow::dress() {
-  const bool dark = palette().color(QPalette::Window).lightness() < 128;
+void HostWindow::dress(bool dark) {
   const QString style = R"(
-    #host, QScrollArea, #list { background: %1; }
+    #host, QScrollArea, QStackedWidget, QTabWidget, *[role="page"] { background: %1; }
     QLabel { color: %2; font-family: Inter; font-size: 15px; background: transparent; }
     QLabel[role="title"] { font-size: 30px; font-weight: 700; }
     QLabel[role="rowTitle"] { font-size: 17px; font-weight: 600; }
     QLabel[role="hint"], QLabel[role="status"] { color: %3; font-size: 13px; }
-    QPushButton[role="row"] { background: %4; border: 1px solid %5; border-radius: 14px; }
-    QPushButton[role="row"]:hover, QPushButton[role="row"]:focus { border: 2px solid %6; }
-    QPushButton[role="row"]:pressed { background: %5; })";
+    QPushButton { font-family: Inter; font-size: 17px; color: %6; background: %4;
+      border: 1px solid %5; border-radius: 10px; padding: 10px 16px; min-height: 22px; }
+    QPushButton[role="back"] { border: 2px solid transparent; background: transparent;
+      padding: 6px 8px; }
+    QPushButton[role="row"] { border-radius: 14px; padding: 0; }
+    QPushButton:hover, QPushButton:focus { border: 2px solid %6; }
+    QPushButton:pressed { background: %5; }
+    QLineEdit { font-family: Inter; font-size: 17px; color: %2; background: %4; padding: 0 8px;
+      border: 1px solid %5; border-radius: 10px; min-height: 42px; }
+    QLineEdit:focus { border: 2px solid %6; }
+    QTabWidget::pane { border: none; top: 16px; }
+    QTabWidget::tab-bar { left: 20px; top: 16px; }
+    QTabBar::tab { font-family: Inter; font-size: 15px; color: %2; background: %1; padding: 10px 16px;
+      border-bottom: 2px solid transparent; }
+    QTabBar::tab:selected { color: %6; border-bottom: 2px solid %6; })";
   setAttribute(Qt::WA_StyledBackground);
   setStyleSheet(dark ? style.arg("#111113", "#f5f5f7", "#a1a1a8", "#1e1e21", "#303035", "#6aa6ff")
-                     : style.arg("#f4f4f6", "#1a1a1c", "#65656b", "#ffffff", "#e3e3e8", "#1f6feb"));
+                     : style.arg("#f4f4f6", "#1a1a1c", "#65656b", "#ffffff", "#e3e3e8", "#0b57d0"));
 }
 
 }  // namespace host

@@ -17,6 +17,9 @@ qv_commons::desktop::DesktopSettings settingsFor(const host::Options& options) {
   qv_commons::desktop::DesktopSettings settings;
   settings.bundleDirectory = options.bundleDirectory.toStdString();
   settings.dataDirectory = options.dataDirectory.toStdString();
+  settings.userInterfaceStyle = options.appearance;
+  settings.systemVersion = options.systemVersion;
+
   settings.onError = [](const std::string& error) {
     std::fprintf(stderr, "desktop_host: %s\n", error.c_str());
   };
@@ -43,7 +46,7 @@ int main(int argc, char** argv) {
   }
   if (options->tourDirectory) return host::runTour(*options, settingsFor(*options));
 
-  host::Session session(settingsFor(*options), host::Device::thisDesktop);
+  host::Session session(settingsFor(*options), host::Device::thisDesktop, options->minimumAge);
   session.window().show();
   return QApplication::exec();
 }

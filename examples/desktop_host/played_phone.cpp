@@ -14,7 +14,7 @@ PlayedPhone::PlayedPhone(const qv_commons::Platform& desktop)
                 .clock = desktop.clock,
                 .calendar = desktop.calendar,
                 .userDefaults = desktop.userDefaults,
-                .application = desktop.application,
+                .application = *this,
                 .mailComposers = desktop.mailComposers,
                 .alerts = desktop.alerts,
                 .layoutLoader = desktop.layoutLoader} {}

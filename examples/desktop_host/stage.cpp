@@ -1,5 +1,6 @@
 #include "examples/desktop_host/stage.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <cstdio>
@@ -20,10 +21,12 @@ void letEventsRun(int milliseconds) {
 
 }  // namespace
 
-Stage::Stage(const QString& directory) : directory_(directory) {
+Stage::Stage(const QString& directory, Transcript transcript) : directory_(directory) {
   directory_.mkpath(".");
   transcript_.setFileName(path("transcript.txt"));
-  if (!transcript_.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text)) {
+  if (transcript == Transcript::fresh) transcript_.remove();
+  // Several processes write it in turn, each at its end.
+  if (!transcript_.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text)) {
     std::fprintf(stderr, "%s: %s\n", qPrintable(transcript_.fileName()),
                  qPrintable(transcript_.errorString()));
   }
@@ -65,7 +68,7 @@ QWidget* Stage::waitForModalWindow(const QString& what) {
 }
 
 void Stage::click(QWidget& window, const QString& buttonName) {
-  auto* button = window.findChild<QPushButton*>(buttonName);
+  auto* button = window.findChild<QAbstractButton*>(buttonName);
   if (button == nullptr || !button->isEnabled()) return fail("can't be clicked: " + buttonName);
   const QString text = button->text().isEmpty() ? button->accessibleName() : button->text();
   note("click: " + QString(text).remove('&'));

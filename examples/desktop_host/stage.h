@@ -3,17 +3,18 @@
 
 #include <QDir>
 #include <QFile>
-#include <QPushButton>
 #include <QWidget>
+#include <cstdint>
 #include <functional>
 
 namespace host {
 
 class Stage final {
  public:
-  // Makes the directory where it is missing. `isUsable` tells whether the transcript can be
-  // written.
-  explicit Stage(const QString& directory);
+  // Makes the directory where it is missing, and begins the transcript anew or goes on with it.
+  // `isUsable` tells whether it can be written.
+  enum class Transcript : std::uint8_t { fresh, continued };
+  Stage(const QString& directory, Transcript transcript);
   bool isUsable() const { return transcript_.isOpen(); }
   QString path(const QString& name) const { return directory_.filePath(name); }
 

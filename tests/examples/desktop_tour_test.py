@@ -1,4 +1,5 @@
 """The desktop tour: its pictures, the message that really was delivered, its transcript."""
+import datetime
 import email
 import email.policy
 import pathlib
@@ -28,6 +29,12 @@ User: 42"""
 
 def run(*arguments):
     return subprocess.run([PROGRAM, *arguments], capture_output=True, text=True, timeout=200)
+
+
+def starts(transcript):
+    """How each start of the app ended."""
+    return [line.removeprefix("age gate: ") for line in transcript.splitlines()
+            if line.startswith("age gate: ")]
 
 
 def body_of(path):
@@ -93,9 +100,53 @@ class DesktopTour(unittest.TestCase):
             self.assertNotIn(b"Receipt-Data.txt", (out / "support-mail.eml").read_bytes())
             self.assertTrue(list(pathlib.Path(bundle, "data", "drafts").iterdir()))
 
+    def test_visits_every_page(self):
+        self.assertIn("opened: itms-apps://apps.apple.com/app/id123456789?mt=8&action=write-review\n",
+                      self.done.stdout)
+        self.assertIn("\n3725 seconds, or 63 minutes, or 0 days\nas a clock: 1:02:05\n"
+                      "in digits: 10205\n", self.done.stdout)
+        self.assertIn("\nOn top: the page “First”.\n", self.done.stdout)
+        self.assertIn("\nThe field holds “birthday”.\n", self.done.stdout)
+
+    def test_lives_both_lives_light_and_dark(self):
+        transcript = (self.out / "transcript.txt").read_text()
+        self.assertEqual(starts(transcript),
+                         2 * ["asked", "allowed", "allowed", "asked", "refused", "refused"])
+        for look in ("light", "dark"):
+            for state in ("age-gate", "age-gate-picked", "allowed", "refused", "refused-again"):
+                self.assertTrue((self.out / f"{state}-{look}.png").exists(), state)
+
+    def test_confirms_the_date_it_is_given(self):
+        today = datetime.date.today()
+        year_ago = today.replace(year=today.year - 1, day=min(today.day, 28))
+        for date, minimum, outcome in (("1980-02-29", 18, "allowed"), (year_ago, 1, "allowed"),
+                                       (year_ago, 2, "refused"), ("2500-01-01", 0, "allowed"),
+                                       ("2500-01-01", 1, "refused")):
+            with tempfile.TemporaryDirectory() as out:
+                done = run("--tour", out, "--birth-date", str(date), "--minimum-age", str(minimum))
+                self.assertEqual(done.returncode, 0, done.stdout)
+                self.assertEqual(starts(pathlib.Path(out, "transcript.txt").read_text()),
+                                 ["asked", outcome, outcome], (date, minimum))
+
+    def test_keeps_a_refusal_in_the_data_folder_it_is_given(self):
+        with tempfile.TemporaryDirectory() as scratch:
+            arguments = ("--tour", scratch + "/out", "--data", scratch + "/data", "--birth-date")
+            self.assertEqual(starts(run(*arguments, "2020-01-01").stdout),
+                             ["asked", "refused", "refused"])
+            self.assertEqual(starts(run(*arguments, "1980-01-01").stdout), 3 * ["refused"])
+
+    def test_refuses_what_it_cannot_read(self):
+        for arguments in (("--birth-date", "1980-02-30"), ("--birth-date", "yesterday"),
+                          ("--minimum-age", "many"), ("--appearance", "blue"),
+                          ("--system-version", "twelve"), ("--system-version", "1.2.3.4")):
+            done = run(*arguments)
+            self.assertEqual(done.returncode, 2, arguments)
+            self.assertIn(arguments[1], done.stderr)
+
     def test_says_how_it_is_used(self):
         self.assertEqual(run("--help").returncode, 0)
-        for option in ("--bundle", "--tour", "--data", "--help"):
+        for option in ("--bundle", "--tour", "--data", "--help", "--birth-date", "--minimum-age",
+                       "--appearance", "--system-version"):
             self.assertIn(option, run("--help").stdout)
         wrong = run("--colour")
         self.assertEqual(wrong.returncode, 2)
