@@ -54,6 +54,10 @@ bool Stage::waitFor(const QString& what, const std::function<bool()>& done) {
 
 void Stage::picture(const QString& name, QWidget& widget) {
   letEventsRun(kSettleMs);
+  pictureAtOnce(name, widget);
+}
+
+void Stage::pictureAtOnce(const QString& name, QWidget& widget) {
   const QString file = name + ".png";
   if (widget.grab().save(path(file))) {
     note("picture: " + file);

@@ -25,8 +25,10 @@ class Stage final {
   // the tour counts as failed.
   bool waitFor(const QString& what, const std::function<bool()>& done);
 
-  // A picture of `widget` as `name`.png, once it has settled.
+  // A picture of `widget` as `name`.png: once it has settled, or of this very moment, which may be
+  // its last.
   void picture(const QString& name, QWidget& widget);
+  void pictureAtOnce(const QString& name, QWidget& widget);
 
   // The window that is on top of all others by modality, once there is one; null where none came
   // up.

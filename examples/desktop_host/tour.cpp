@@ -31,7 +31,7 @@ void sendMessage(Stage& stage, DesktopSettings settings) {
   if (composer == nullptr) return;
   stage.picture("composer", *composer);
   stage.click(*composer, "send");
-  stage.picture("composer-sending", *composer);
+  stage.pictureAtOnce("composer-sending", *composer);
   stage.waitFor("the host is told", [&] { return session.supportCompletions() == 1; });
   stage.note("the host is told that the composer is gone");
   stage.picture("home-after-sending", session.window());

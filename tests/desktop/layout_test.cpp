@@ -17,6 +17,8 @@ struct Case {
   QSize window;
   Qt::LayoutDirection direction;
   int fontPixels;
+
+  friend void PrintTo(const Case& tried, std::ostream* out) { *out << tried.name; }
 };
 
 class Layout : public ComposerTest, public testing::WithParamInterface<Case> {
