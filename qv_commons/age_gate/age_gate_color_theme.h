@@ -1,7 +1,7 @@
 // The five colours of the age gate's screens.
 //
-//     auto stock = qv_commons::QV_AgeGateColorTheme::defaultTheme();  // light or dark, as the
-//     system auto own = std::make_shared<qv_commons::QV_AgeGateColorTheme>(
+//     auto stock = qv_commons::QV_AgeGateColorTheme::defaultTheme();  // light or dark
+//     auto own = std::make_shared<qv_commons::QV_AgeGateColorTheme>(
 //         /*backgroundColor=*/qv_commons::Color{1, 1, 1},
 //         /*buttonBackgroundColor=*/qv_commons::Color{0.1, 0.3, 0.8},
 //         /*buttonTextColor=*/qv_commons::Color{1, 1, 1},

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "qv_commons/platform/fatal_error.h"
+#include "qv_commons/support/url.h"
 
 namespace qv_commons::memory {
 namespace {
@@ -76,9 +77,10 @@ bool MemoryScreen::tapLink(std::string_view textView, std::size_t unit) {
   const std::optional<Link> link = tapped.choosableLinkAt(unit);
   if (!link) return false;
   TextViewDelegate* delegate = tapped.delegate();
-  if (delegate == nullptr || delegate->shouldInteractWithURL(tapped, link->value, link->range)) {
-    application_.openURL(link->value);
+  if (delegate != nullptr && !delegate->shouldInteractWithURL(tapped, link->value, link->range)) {
+    return true;
   }
+  if (const std::optional<URL> url = URL::parse(link->value)) application_.openURL(*url);
   return true;
 }
 

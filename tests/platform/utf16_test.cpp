@@ -1,0 +1,32 @@
+#include "qv_commons/platform/memory/utf16.h"
+
+#include <gtest/gtest.h>
+
+namespace qv_commons::memory {
+namespace {
+
+TEST(Utf16, CountsOneUnitUpToU_FFFFAndTwoAbove) {
+  EXPECT_EQ(utf16Of(""), u"");
+  EXPECT_EQ(utf16Of("a"), u"a");
+  EXPECT_EQ(utf16Of("é"), u"\u00E9");
+  EXPECT_EQ(utf16Of("e\u0301"), u"e\u0301");
+  EXPECT_EQ(utf16Of("’"), u"\u2019");
+  EXPECT_EQ(utf16Of("👍"), u"\xD83D\xDC4D");
+  EXPECT_EQ(utf16Of("\U0010FFFF"), u"\xDBFF\xDFFF");
+}
+
+TEST(Utf16, ComesBackAsItWas) {
+  const std::string_view text = "a é e\u0301 \u07FF \u0800 \uFFFD 👍 \U0010FFFF";
+  EXPECT_EQ(utf8Of(utf16Of(text)), text);
+}
+
+TEST(Utf16, ShowsHalfAPairAsAReplacement) {
+  EXPECT_EQ(utf8Of(u"a\xD83D"), "a\uFFFD");
+  EXPECT_EQ(utf8Of(u"\xDC4D"
+                   u"a"),
+            "\uFFFDa");
+  EXPECT_EQ(utf8Of(u"\xD83D\xD83D\xDC4D"), "\uFFFD👍");
+}
+
+}  // namespace
+}  // namespace qv_commons::memory
