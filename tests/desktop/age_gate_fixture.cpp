@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QScrollArea>
 #include <QTest>
 #include <QWindow>
 #include <filesystem>
@@ -32,14 +33,21 @@ AgeGateTest::AgeGateTest(QSize size) : size_(size) {
 }
 
 AgeGateTest::~AgeGateTest() {
-  takeScreensAway();
+  end();
 }
 
-// A screen and the host that presents it keep each other.
-void AgeGateTest::takeScreensAway() {
-  if (host_ == nullptr || host_->presentedViewController() == nullptr) return;
-  host_->dismissViewController(false, nullptr);
-  QTest::qWait(1);
+void AgeGateTest::end() {
+  // A screen and the host that presents it keep each other.
+  if (host_ != nullptr && host_->presentedViewController() != nullptr) {
+    host_->dismissViewController(false, nullptr);
+    QTest::qWait(1);
+  }
+  theme_.reset();
+  host_.reset();
+  scope_.reset();
+  platform_.reset();
+  desktop_.reset();
+  window_.reset();
 }
 
 DesktopSettings AgeGateTest::settings() const {
@@ -52,13 +60,7 @@ DesktopSettings AgeGateTest::settings() const {
 }
 
 void AgeGateTest::restart(DesktopSettings settings) {
-  takeScreensAway();
-  theme_.reset();
-  host_.reset();
-  scope_.reset();
-  platform_.reset();
-  desktop_.reset();
-  window_.reset();
+  end();
   completions_ = 0;
   settings.onError = [this](const std::string& error) { errors_.push_back(error); };
   window_ = std::make_unique<QWidget>();
@@ -109,6 +111,9 @@ Wheel& AgeGateTest::wheel(QWidget& gate, DateField field) {
 
 void AgeGateTest::click(QWidget& widget, QPoint place) {
   QWidget* window = widget.window();
+  auto* scroll = window->findChild<QScrollArea*>("scroll");
+  const QPoint inContent = widget.mapTo(scroll->widget(), place);
+  scroll->ensureVisible(inContent.x(), inContent.y());
   QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, widget.mapTo(window, place));
   QTest::qWait(1);
 }

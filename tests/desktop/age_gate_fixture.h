@@ -93,7 +93,7 @@ class AgeGateTest : public testing::Test {
   std::vector<std::string> errors_;
 
  private:
-  void takeScreensAway();
+  void end();  // of the process, as far as one can tell
 
   QSize size_;
 };
