@@ -26,5 +26,7 @@ function(qv_add_library name export)
   target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
                                             $<INSTALL_INTERFACE:include>)
   qv_compile_options(${name})
+  # Nobody replaces functions of these libraries at load time, so g++ may inline them, as clang++ does.
+  target_compile_options(${name} PRIVATE -fno-semantic-interposition)
   set_property(GLOBAL APPEND PROPERTY QV_COMMONS_LIBRARIES ${name})
 endfunction()

@@ -13,7 +13,8 @@ std::string textForKey(const Bundle& bundle, std::string_view key) {
 
 std::string appVersionOf(const Bundle& bundle) {
   std::string version = textForKey(bundle, "CFBundleShortVersionString");
-  return version.append("(").append(textForKey(bundle, "CFBundleVersion")).append(")");
+  version.append("(").append(textForKey(bundle, "CFBundleVersion")).append(")");
+  return version;
 }
 
 std::string appIdOf(const Bundle& bundle) {

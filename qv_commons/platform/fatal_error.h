@@ -3,6 +3,7 @@
 // A fatal error is a programming error of the host or of a layout: an outlet that is not connected,
 // a text too short for its links. There is no way on, so the process prints why and aborts.
 //
+//     std::string_view title = "Notes";
 //     if (title.empty()) qv_commons::fatalError("QV_Example: the title is empty");
 #pragma once
 

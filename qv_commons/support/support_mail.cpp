@@ -55,7 +55,8 @@ std::string supportMailBody(const SupportMailInputs& inputs) {
   body.reserve(size);
   for (std::string_view piece : beforePurchases) body.append(piece);
   appendJoined(body, inputs.purchases);
-  return body.append("\n").append(metadata);
+  body.append("\n").append(metadata);
+  return body;
 }
 
 MailAttachment supportMailAttachment(std::string_view receipt) {

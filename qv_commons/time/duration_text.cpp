@@ -93,28 +93,26 @@ unsigned digitOf(char c) {
 }
 
 // Reads "mm:ss", "h:mm:ss" and "hh:mm:ss", the texts of `everydayText`, straight from their places.
-// Nothing for other texts, which may be durations all the same. All digits are judged at once, so
-// that the processor has no branch to guess at each.
-std::optional<std::int64_t> readEverydayText(std::string_view text) {
+// -1 for other texts, which may be durations all the same.
+int readEverydayText(std::string_view text) {
   const std::size_t size = text.size();
-  if (size != 5 && size != 7 && size != 8) return std::nullopt;
+  if (size != 5 && size != 7 && size != 8) return -1;
   bool valid = true;
   const auto digit = [&](std::size_t place) {
-    const unsigned value = digitOf(text[place]);
+    const int value = static_cast<int>(digitOf(text[place]));
     valid &= value <= 9;
     return value;
   };
   const auto pair = [&](std::size_t place) { return 10 * digit(place) + digit(place + 1); };
   const auto colon = [&](std::size_t place) { valid &= text[place] == ':'; };
 
-  unsigned total = 60 * pair(size - 5) + pair(size - 2);
+  int total = 60 * pair(size - 5) + pair(size - 2);
   colon(size - 3);
   if (size > 5) {
-    total += 3600 * (size == 7 ? digit(0) : pair(0));
+    total += 3600 * (size == 8 ? pair(0) : digit(0));
     colon(size - 6);
   }
-  if (!valid) return std::nullopt;
-  return total;
+  return valid ? total : -1;
 }
 
 // An optional sign and digits, nothing else, within 64 bits.
@@ -174,6 +172,24 @@ std::optional<std::int64_t> readAnyText(std::string_view text) {
   return sumOf(*seconds, *minutes, *hours);
 }
 
+// Gives the seconds of `text` and true, or false. Not a std::optional: g++ hands those out through
+// memory, in two pieces written and one read, which takes longer than the reading of most texts.
+// Out of line, so that `tryHmsToSeconds` is small enough to be inlined in `hmsToSeconds`.
+[[gnu::noinline]] bool readDuration(std::string_view text, std::int64_t& seconds) {
+  seconds = readEverydayText(text);
+  if (seconds >= 0) return true;
+  text = trimmed(text);
+  seconds = readEverydayText(withoutFraction(text));
+  if (seconds >= 0) return true;
+  const std::optional<std::int64_t> any = readAnyText(text);
+  seconds = any.value_or(0);
+  return any.has_value();
+}
+
+[[noreturn]] void stopAt(std::string_view text) {
+  fatalError("QV_TimeHelper: hmsToSeconds can't read \"" + std::string(text) + "\"");
+}
+
 }  // namespace
 
 std::string QV_TimeHelper::secondsToHms(std::int64_t seconds) {
@@ -188,19 +204,16 @@ std::string QV_TimeHelper::secondsToHmsDigits(std::int64_t seconds) {
   return std::to_string(fields.hours * std::int64_t{10000} + (fields.hours < 0 ? -below : below));
 }
 
-std::int64_t QV_TimeHelper::hmsToSeconds(std::string_view text) {
-  const std::optional<std::int64_t> seconds = tryHmsToSeconds(text);
-  if (!seconds) {
-    fatalError("QV_TimeHelper: hmsToSeconds can't read \"" + std::string(text) + "\"");
-  }
-  return *seconds;
+std::optional<std::int64_t> QV_TimeHelper::tryHmsToSeconds(std::string_view text) {
+  std::int64_t seconds = 0;
+  if (!readDuration(text, seconds)) return std::nullopt;
+  return seconds;
 }
 
-std::optional<std::int64_t> QV_TimeHelper::tryHmsToSeconds(std::string_view text) {
-  if (const auto seconds = readEverydayText(text)) return seconds;
-  text = trimmed(text);
-  if (const auto seconds = readEverydayText(withoutFraction(text))) return seconds;
-  return readAnyText(text);
+std::int64_t QV_TimeHelper::hmsToSeconds(std::string_view text) {
+  const std::optional<std::int64_t> seconds = tryHmsToSeconds(text);
+  if (!seconds) stopAt(text);
+  return *seconds;
 }
 
 }  // namespace qv_commons

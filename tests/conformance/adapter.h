@@ -12,6 +12,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -78,18 +79,24 @@ class Adapter {
   virtual void finish(MailComposer& composer, MailComposeResult how) = 0;
 };
 
-using MakeAdapter = std::unique_ptr<Adapter> (*)();
+struct AdapterUnderTest {
+  const char* name;
+  std::unique_ptr<Adapter> (*make)();
 
-class Suite : public testing::TestWithParam<MakeAdapter> {
+  friend void PrintTo(const AdapterUnderTest& adapter, std::ostream* out) { *out << adapter.name; }
+};
+
+class Suite : public testing::TestWithParam<AdapterUnderTest> {
  protected:
   Adapter& adapter() { return *adapter_; }
   const Platform& platform() { return adapter_->platform(); }
 
  private:
-  std::unique_ptr<Adapter> adapter_ = GetParam()();
+  std::unique_ptr<Adapter> adapter_ = GetParam().make();
 };
 
 }  // namespace qv_commons::conformance
 
-#define QV_RUN_SUITE(suite, name, make) \
-  INSTANTIATE_TEST_SUITE_P(name, suite, testing::Values(static_cast<MakeAdapter>(&make)))
+#define QV_RUN_SUITE(suite, name, make)                                                  \
+  INSTANTIATE_TEST_SUITE_P(name, suite, testing::Values(AdapterUnderTest{#name, &make}), \
+                           [](const auto&) { return std::string("Adapter"); })

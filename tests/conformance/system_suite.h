@@ -3,6 +3,7 @@
 #pragma once
 
 #include "qv_commons/support/url.h"
+
 #include "tests/conformance/adapter.h"
 
 namespace qv_commons::conformance {
@@ -72,8 +73,9 @@ class ApplicationConformance : public Suite {};
 
 TEST_P(ApplicationConformance, HandsALinkToTheSystem) {
   const Platform& current = platform();
-  const std::optional<URL> link = URL::parse("https://example.com/privacy/");
-  EXPECT_THAT(adapter().openedBy([&] { current.application.openURL(*link); }),
+  EXPECT_THAT(adapter().openedBy([&] {
+    current.application.openURL(*URL::parse("https://example.com/privacy/"));
+  }),
               testing::ElementsAre("https://example.com/privacy/"));
 }
 

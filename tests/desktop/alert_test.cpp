@@ -18,6 +18,7 @@ class AlertWindows : public testing::Test {
   AlertWindows() {
     host_.resize(375, 667);
     host_.show();
+    settle();
   }
 
   void addAction(const std::string& title, AlertActionStyle style) {

@@ -24,6 +24,7 @@ class ComposerTest : public testing::Test {
                    folder_.path("arguments") + "\"");
     host_.resize(375, 667);
     host_.show();
+    settle();
   }
 
   void useMailProgram(const std::string& script) {

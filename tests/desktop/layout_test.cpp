@@ -13,22 +13,27 @@ namespace qv_commons::desktop {
 namespace {
 
 struct Case {
+  const char* name;
   QSize window;
   Qt::LayoutDirection direction;
-};
+  int fontPixels;
 
-void PrintTo(const Case& tried, std::ostream* out) {
-  *out << tried.window.width() << "x" << tried.window.height()
-       << (tried.direction == Qt::RightToLeft ? " right to left" : "");
-}
+  friend void PrintTo(const Case& tried, std::ostream* out) { *out << tried.name; }
+};
 
 class Layout : public ComposerTest, public testing::WithParamInterface<Case> {
  protected:
   void SetUp() override {
     QApplication::setLayoutDirection(GetParam().direction);
+    QFont font = fontBefore_;
+    font.setPixelSize(GetParam().fontPixels);
+    QApplication::setFont(font);
     host_.resize(GetParam().window);
   }
-  void TearDown() override { QApplication::setLayoutDirection(Qt::LeftToRight); }
+  void TearDown() override {
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+    QApplication::setFont(fontBefore_);
+  }
 
   // Each widget has the room that its text needs, inside what it stands in.
   static void expectNothingCutOff(const QWidget& window) {
@@ -57,6 +62,9 @@ class Layout : public ComposerTest, public testing::WithParamInterface<Case> {
     EXPECT_LE(area.widget()->width(), area.viewport()->width());
     EXPECT_EQ(area.horizontalScrollBar()->maximum(), 0);
   }
+
+ private:
+  QFont fontBefore_ = QApplication::font();
 };
 
 TEST_P(Layout, TheComposerCutsNothingOff) {
@@ -97,15 +105,26 @@ TEST_P(Layout, AnAlertCutsNothingOff) {
   expectNothingCutOff(windowOf(*alert));
 }
 
-INSTANTIATE_TEST_SUITE_P(Sizes, Layout,
-                         testing::Values(Case{{320, 568}, Qt::LeftToRight},
-                                         Case{{320, 568}, Qt::RightToLeft},
-                                         Case{{375, 667}, Qt::LeftToRight},
-                                         Case{{1024, 768}, Qt::RightToLeft}),
-                         [](const auto& tried) {
-                           return std::to_string(tried.param.window.width()) +
-                                  (tried.param.direction == Qt::RightToLeft ? "RightToLeft" : "");
-                         });
+INSTANTIATE_TEST_SUITE_P(
+    Windows, Layout,
+    testing::Values(Case{"Phone", {375, 667}, Qt::LeftToRight, 15},
+                    Case{"SmallPhone", {320, 568}, Qt::LeftToRight, 15},
+                    Case{"SmallPhoneRightToLeft", {320, 568}, Qt::RightToLeft, 15},
+                    Case{"SmallPhoneLargeText", {320, 568}, Qt::LeftToRight, 30},
+                    Case{"SmallPhoneLargeTextRightToLeft", {320, 568}, Qt::RightToLeft, 30},
+                    Case{"DesktopRightToLeft", {1024, 768}, Qt::RightToLeft, 15}),
+    [](const auto& tried) { return tried.param.name; });
+
+TEST_P(Layout, TextsHaveTheirSizes) {
+  open();
+  const int scale = GetParam().fontPixels / 15;
+  const std::pair<const char*, int> sizes[] = {{"title", 24},  {"to", 17},
+                                               {"send", 17},   {"attachmentName", 15},
+                                               {"notice", 15}, {"attachmentSize", 13}};
+  for (const auto& [name, pixels] : sizes) {
+    EXPECT_EQ(find<QWidget>(*composer_, name).font().pixelSize(), scale * pixels) << name;
+  }
+}
 
 // https://www.w3.org/TR/WCAG21/#dfn-relative-luminance
 double luminance(const QColor& color) {
@@ -132,6 +151,18 @@ TEST(Themes, TellEveryTextFromItsBackground) {
     EXPECT_GE(contrast(theme.text, theme.field), 4.5);
     EXPECT_GE(contrast(theme.onAccent, theme.accent), 4.5);
   }
+}
+
+TEST(TextScale, IsNeverBelowOne) {
+  const QFont before = QApplication::font();
+  QFont font = before;
+  font.setPixelSize(9);
+  QApplication::setFont(font);
+  EXPECT_EQ(textScale(), 1);
+  font.setPixelSize(30);
+  QApplication::setFont(font);
+  EXPECT_EQ(textScale(), 2);
+  QApplication::setFont(before);
 }
 
 TEST(Themes, AreDarkWhereTheyShouldBe) {

@@ -38,6 +38,10 @@ class Asked final : public NativeViewController {
   void dismissViewController(bool, Completion) override { fail(); }
   void setModalInPresentation(bool) override { fail(); }
   void setOverrideUserInterfaceStyle(UserInterfaceStyle) override { fail(); }
+  std::shared_ptr<ViewController> retained() override {
+    fail();
+    return nullptr;
+  }
   ViewController* presentedViewController() const override { return note(".presented", presented); }
   ViewController* presentingViewController() const override {
     return note(".presenting", presenting);
@@ -188,6 +192,7 @@ class Link final : public NativeViewController {
   void dismissViewController(bool, Completion) override {}
   void setModalInPresentation(bool) override {}
   void setOverrideUserInterfaceStyle(UserInterfaceStyle) override {}
+  std::shared_ptr<ViewController> retained() override { return nullptr; }
   ViewController* presentedViewController() const override {
     return next == nullptr ? nullptr : &next->controller_;
   }

@@ -3,26 +3,8 @@
 #include <QBitmap>
 #include <QEvent>
 #include <QPainter>
-#include <QPalette>
-#include <cmath>
 
 namespace qv_commons::desktop {
-
-namespace {
-
-// The relative luminance of sRGB, as the Web Content Accessibility Guidelines define it.
-double luminanceOf(const QColor& color) {
-  const auto linear = [](double part) {
-    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-         0.0722 * linear(color.blueF());
-}
-
-// Where black and white stand out equally: (L + 0.05) / 0.05 = 1.05 / (L + 0.05).
-constexpr double kLuminanceOfEqualContrast = 0.179;
-
-}  // namespace
 
 Backdrop::Backdrop(QWidget& widget) : QObject(&widget), widget_(widget) {
   widget.installEventFilter(this);
@@ -30,16 +12,6 @@ Backdrop::Backdrop(QWidget& widget) : QObject(&widget), widget_(widget) {
 
 void Backdrop::setColor(const QColor& color) {
   color_ = color;
-  if (color.alpha() == 255) {
-    const QColor ink = luminanceOf(color) > kLuminanceOfEqualContrast ? Qt::black : Qt::white;
-    QPalette palette = widget_.palette();
-    palette.setColor(QPalette::Window, color);
-    palette.setColor(QPalette::Base, color);
-    palette.setColor(QPalette::WindowText, ink);
-    palette.setColor(QPalette::Text, ink);
-    palette.setColor(QPalette::ButtonText, ink);
-    widget_.setPalette(palette);
-  }
   widget_.update();
 }
 

@@ -16,15 +16,9 @@ class Backdrop final : public QObject {
   // Belongs to `widget`, and goes with it.
   explicit Backdrop(QWidget& widget);
 
-  // On an opaque colour, the widget and all that it holds write in black or white, whichever is
-  // easier to read, until told otherwise.
   void setColor(const QColor& color);
-
   void setCornerRadius(double radius);
   void setClipsToBounds(bool clips);
-
-  QColor color() const { return color_; }
-  double cornerRadius() const { return radius_; }
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 

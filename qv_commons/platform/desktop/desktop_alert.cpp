@@ -96,8 +96,9 @@ void DesktopAlert::place(QWidget& window, const QWidget& presenterWindow) {
   layout_.invalidate();
   const int width = std::min(qRound(kWidth * textScale()), area.width() - 2 * kSideMargin);
   window.setFixedWidth(width);
-  window.resize(width, std::max(window.sizeHint().height(), layout_.heightForWidth(width)));
-  window.move(area.center() - window.rect().center());
+  QRect geometry(0, 0, width, layout_.heightForWidth(width));
+  geometry.moveCenter(area.center());
+  window.setGeometry(geometry);
   if (!buttons_.empty()) buttons_.front()->setFocus();
 }
 

@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <QStandardPaths>
+#include <map>
 #include <memory>
 
 #include "qv_commons/platform/desktop/desktop_platform.h"
@@ -10,8 +11,13 @@
 
 namespace qv_commons::desktop {
 
+class HostNode;
+
 struct DesktopContext {
   DesktopSettings settings;
+
+  // The controllers of the host's own widgets that somebody holds.
+  std::map<const QWidget*, HostNode*> hostNodes;
 
   // Completions wait in this object's event queue, and go with it.
   QObject transitions;

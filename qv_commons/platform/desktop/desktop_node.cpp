@@ -11,18 +11,6 @@
 namespace qv_commons::desktop {
 namespace {
 
-class HostNode final : public DesktopNode {
- public:
-  HostNode(SharedContext context, QWidget& hostWindow) : DesktopNode(std::move(context)) {
-    attachWindow(*hostWindow.window());
-  }
-
-  ViewController& controller() override { return controller_; }
-
- private:
-  ViewController controller_{*this};
-};
-
 bool isEscape(const QEvent& event) {
   return event.type() == QEvent::KeyPress &&
          static_cast<const QKeyEvent&>(event).matches(QKeySequence::Cancel);
@@ -31,7 +19,10 @@ bool isEscape(const QEvent& event) {
 }  // namespace
 
 bool DesktopNode::Watcher::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::ApplicationPaletteChange) node_.redress();
+  if (event->type() == QEvent::ApplicationPaletteChange ||
+      event->type() == QEvent::ApplicationFontChange) {
+    node_.redress();
+  }
   const bool leaves = event->type() == QEvent::Close || isEscape(*event);
   if (!leaves || node_.presenter() == nullptr) return QObject::eventFilter(watched, event);
   event->ignore();
@@ -87,12 +78,6 @@ void DesktopNode::hide(bool) {
 void DesktopNode::afterTransition(Completion transitionDone) {
   QMetaObject::invokeMethod(&context_->transitions, std::move(transitionDone),
                             Qt::QueuedConnection);
-}
-
-std::shared_ptr<ViewController> makeHostViewController(SharedContext context, QWidget& hostWindow) {
-  auto node = std::make_shared<HostNode>(std::move(context), hostWindow);
-  ViewController& controller = node->controller();
-  return {std::move(node), &controller};
 }
 
 }  // namespace qv_commons::desktop

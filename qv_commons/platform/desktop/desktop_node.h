@@ -63,7 +63,4 @@ class DesktopNode : public PresentationNode {
   UserInterfaceStyle overrideStyle_ = UserInterfaceStyle::unspecified;
 };
 
-// The view controller of a window that the host owns.
-std::shared_ptr<ViewController> makeHostViewController(SharedContext context, QWidget& hostWindow);
-
 }  // namespace qv_commons::desktop

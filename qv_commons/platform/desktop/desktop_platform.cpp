@@ -1,6 +1,8 @@
 #include "qv_commons/platform/desktop/desktop_platform.h"
 
 #include <QCoreApplication>
+#include <QStackedWidget>
+#include <QTabWidget>
 #include <utility>
 
 #include "qv_commons/platform/desktop/desktop_alert.h"
@@ -9,9 +11,9 @@
 #include "qv_commons/platform/desktop/desktop_files.h"
 #include "qv_commons/platform/desktop/desktop_layout_loader.h"
 #include "qv_commons/platform/desktop/desktop_mail.h"
-#include "qv_commons/platform/desktop/desktop_node.h"
 #include "qv_commons/platform/desktop/desktop_screen.h"
 #include "qv_commons/platform/desktop/desktop_system.h"
+#include "qv_commons/platform/desktop/host_node.h"
 #include "qv_commons/platform/desktop/icu_calendar.h"
 #include "qv_commons/platform/desktop/sqlite_user_defaults.h"
 
@@ -68,8 +70,18 @@ const Platform& DesktopPlatform::platform() const {
   return parts_->platform;
 }
 
-std::shared_ptr<ViewController> DesktopPlatform::viewController(QWidget& hostWindow) const {
-  return makeHostViewController(parts_->context, hostWindow);
+std::shared_ptr<ViewController> DesktopPlatform::viewController(QWidget& windowOrPage) const {
+  return hostViewController(parts_->context, windowOrPage);
+}
+
+std::shared_ptr<ViewController> DesktopPlatform::navigationController(QStackedWidget& pages) const {
+  return hostViewController(parts_->context, pages, ViewControllerKind::navigation,
+                            [&pages] { return pages.currentWidget(); });
+}
+
+std::shared_ptr<ViewController> DesktopPlatform::tabBarController(QTabWidget& tabs) const {
+  return hostViewController(parts_->context, tabs, ViewControllerKind::tabBar,
+                            [&tabs] { return tabs.currentWidget(); });
 }
 
 }  // namespace qv_commons::desktop

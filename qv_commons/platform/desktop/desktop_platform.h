@@ -22,6 +22,8 @@
 #include "qv_commons/platform/desktop/calendar_settings.h"
 #include "qv_commons/platform/platform.h"
 
+class QStackedWidget;
+class QTabWidget;
 class QWidget;
 
 namespace qv_commons::desktop {
@@ -76,10 +78,15 @@ class DesktopPlatform {
   // To be installed: `installPlatform(desktop.platform())`.
   const Platform& platform() const;
 
-  // The view controller of a host's window, for the library to show its screens over. They go with
-  // it: keep it while the window is open. One that is made anew knows nothing of what an earlier
-  // one for the same window presents.
-  std::shared_ptr<ViewController> viewController(QWidget& hostWindow) const;
+  // The view controller of a host's window, or of a page in a window, for the library to show its
+  // screens over. They go with it: keep it while the window is open. As long as somebody keeps it,
+  // the same widget gives the same controller.
+  std::shared_ptr<ViewController> viewController(QWidget& windowOrPage) const;
+
+  // The same for containers of pages. The visible controller of the one, and the selected one of
+  // the other, is the controller of the current page, where somebody keeps one for it.
+  std::shared_ptr<ViewController> navigationController(QStackedWidget& pages) const;
+  std::shared_ptr<ViewController> tabBarController(QTabWidget& tabs) const;
 
  private:
   struct Parts;

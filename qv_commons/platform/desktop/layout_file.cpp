@@ -76,7 +76,12 @@ void setUpText(LinkTextView& view) {
   }
 }
 
+// A wheel that has the focus from the start may be out of sight when the first key turns it.
 void setUpScrolling(QScrollArea& area) {
+  for (WheelDatePicker* picker : area.findChildren<WheelDatePicker*>()) {
+    QObject::connect(picker, &WheelDatePicker::dateChanged, &area,
+                     [&area, picker] { area.ensureWidgetVisible(picker); });
+  }
   area.setVerticalScrollBar(new ThinScrollBar(&area));
   area.viewport()->setAutoFillBackground(false);
   if (area.widget() != nullptr) area.widget()->setAutoFillBackground(false);

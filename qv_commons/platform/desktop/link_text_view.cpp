@@ -1,6 +1,7 @@
 #include "qv_commons/platform/desktop/link_text_view.h"
 
 #include <QEvent>
+#include <QFocusEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTextDocument>
@@ -76,6 +77,13 @@ void LinkTextView::mouseReleaseEvent(QMouseEvent* event) {
   if (!isBeside || isSelecting) return;
   const QString link = linkNear(place);
   if (!link.isEmpty()) emit anchorClicked(QUrl(link));
+}
+
+// By Tab to the first link, by Shift and Tab to the last one, instead of to the text as a whole.
+void LinkTextView::focusInEvent(QFocusEvent* event) {
+  QTextBrowser::focusInEvent(event);
+  if (event->reason() == Qt::TabFocusReason) focusNextPrevChild(true);
+  if (event->reason() == Qt::BacktabFocusReason) focusNextPrevChild(false);
 }
 
 // In growing squares around `place`.

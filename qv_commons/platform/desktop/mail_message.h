@@ -25,7 +25,7 @@ struct MailMessage {
   std::string body = {};
   bool isHTML = false;
   std::vector<MailAttachment> attachments = {};
-  std::int64_t date = 0;  // seconds since 1970-01-01 00:00:00 UTC
+  std::int64_t date = 0;       // seconds since 1970-01-01 00:00:00 UTC
   std::string messageId = {};  // without angle brackets
 };
 

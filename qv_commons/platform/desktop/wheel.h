@@ -27,6 +27,7 @@ class Wheel final : public QWidget {
   int highestNumber() const { return date_.number(field_, date_.rows(field_) - 1); }
 
   void setMonthForm(MonthForm form);
+  QString shownText() const { return date_.text(field_, date_.row(field_), monthForm_); }
 
   // As wide as the widest of its rows in `font`.
   int widthOfRows(const QFont& font, MonthForm form) const;

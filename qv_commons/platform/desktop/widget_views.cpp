@@ -3,6 +3,7 @@
 #include <QPointer>
 #include <QTextCursor>
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "qv_commons/platform/desktop/qt_text.h"
@@ -23,6 +24,18 @@ QString toHtml(const QLabel& label, const QString& text) {
       .arg(direction, alignmentOf(label, label.alignment()), text.toHtmlEscaped());
 }
 
+// The relative luminance of sRGB, as the Web Content Accessibility Guidelines define it.
+double luminanceOf(const QColor& color) {
+  const auto linear = [](double part) {
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+         0.0722 * linear(color.blueF());
+}
+
+// Where black and white stand out equally: (L + 0.05) / 0.05 = 1.05 / (L + 0.05).
+constexpr double kLuminanceOfEqualContrast = 0.179;
+
 void setColor(QWidget& widget, QPalette::ColorGroup group, QPalette::ColorRole role,
               const QColor& color) {
   QPalette palette = widget.palette();
@@ -35,6 +48,14 @@ void setColor(QWidget& widget, QPalette::ColorGroup group, QPalette::ColorRole r
 QColor toQColor(const Color& color) {
   const auto part = [](double value) { return static_cast<float>(std::clamp(value, 0.0, 1.0)); };
   return QColor::fromRgbF(part(color.red), part(color.green), part(color.blue), part(color.alpha));
+}
+
+void PanelView::setBackgroundColor(const Color& color) {
+  WidgetView::setBackgroundColor(color);
+  const QColor ground = toQColor(color);
+  if (ground.alpha() < 255) return;
+  const bool isLight = luminanceOf(ground) > kLuminanceOfEqualContrast;
+  setColor(panel_, QPalette::All, QPalette::WindowText, isLight ? Qt::black : Qt::white);
 }
 
 LabelView::LabelView(QLabel& label) : WidgetView(label), label_(label), text_(label.text()) {

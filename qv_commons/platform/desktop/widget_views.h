@@ -32,7 +32,17 @@ class WidgetView : public Interface {
   Backdrop& backdrop_;
 };
 
-using PanelView = WidgetView<View>;
+// On an opaque colour, what it holds and has no colour of its own (the date picker) writes in black
+// or white, whichever is easier to read.
+class PanelView final : public WidgetView<View> {
+ public:
+  explicit PanelView(QWidget& panel) : WidgetView(panel), panel_(panel) {}
+
+  void setBackgroundColor(const Color& color) override;
+
+ private:
+  QWidget& panel_;
+};
 
 class LabelView final : public WidgetView<Label> {
  public:

@@ -20,11 +20,11 @@ enum class ViewClass : std::uint8_t { view, label, button, datePicker, textView 
 
 struct ViewLayout {
   ViewClass viewClass = ViewClass::view;
-  std::optional<std::string> text;  // of a label or a text view, in UTF-8
-  std::optional<Color> textColor;   // of a text view: what its text is coloured in
-  std::string action;               // the selector that a button or a date picker triggers
-  bool isSelectable = true;         // of a text view: links can be chosen only if selectable
-  bool isEditable = false;          // and not editable
+  std::optional<std::string> text{};  // of a label or a text view, in UTF-8
+  std::optional<Color> textColor{};   // of a text view: what its text is coloured in
+  std::string action{};               // the selector that a button or a date picker triggers
+  bool isSelectable = true;           // of a text view: links can be chosen only if selectable
+  bool isEditable = false;            // and not editable
 };
 
 using MemoryLayout = std::map<std::string, ViewLayout, std::less<>>;

@@ -66,8 +66,7 @@ std::shared_ptr<MailComposer> MemoryMail::makeMailComposer() {
 }
 
 void MemoryAlert::tap(std::size_t index) {
-  const Completion handler = actions_.at(index).handler;
-  PresentationNode::dismissViewController(true, handler);
+  leave(actions_.at(index).handler);
 }
 
 void MemoryAlert::Alert::addAction(std::string title, AlertActionStyle style, Completion handler) {

@@ -34,8 +34,12 @@ MemoryNode& MemoryNode::of(const ViewController& controller) {
 
 bool MemoryNode::swipeAway() {
   if (!isOnScreen() || modalInPresentation_) return false;
-  PresentationNode::dismissViewController(true, nullptr);
+  leave(nullptr);
   return true;
+}
+
+void MemoryNode::leave(Completion completion) {
+  PresentationNode::dismissViewController(true, std::move(completion));
 }
 
 void MemoryNode::presentViewController(std::shared_ptr<ViewController> controller, bool animated,

@@ -43,6 +43,9 @@ class MemoryNode : public PresentationNode {
   void hide(bool) override {}
   void afterTransition(Completion transitionDone) override;
 
+  // Dismissed by the user, which is no operation to be noted.
+  void leave(Completion completion);
+
   Record& record() const { return record_; }
   Transitions& transitions() const { return transitions_; }
 

@@ -1,0 +1,61 @@
+#include "qv_commons/platform/desktop/desktop_search_bar.h"
+
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPixmap>
+
+#include "qv_commons/platform/desktop/qt_text.h"
+#include "qv_commons/platform/fatal_error.h"
+
+namespace qv_commons::desktop {
+namespace {
+
+// Drawn here, since icon themes differ from desktop to desktop and may be missing.
+QIcon magnifyingGlass(const QColor& color) {
+  constexpr int kScale = 3;
+  QPixmap pixmap(16 * kScale, 16 * kScale);
+  pixmap.setDevicePixelRatio(kScale);
+  pixmap.fill(Qt::transparent);
+  QPainter painter(&pixmap);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(color, 1.6, Qt::SolidLine, Qt::RoundCap));
+  painter.drawEllipse(QRectF(2, 2, 8.5, 8.5));
+  painter.drawLine(QPointF(9.5, 9.5), QPointF(13.5, 13.5));
+  return pixmap;
+}
+
+}  // namespace
+
+DesktopSearchBar::DesktopSearchBar(const QString& prompt, QWidget* parent)
+    : QWidget(parent), line_(new QLineEdit), field_(*line_) {
+  line_->setPlaceholderText(prompt);
+  line_->setAccessibleName(prompt);
+  line_->setClearButtonEnabled(true);
+  line_->setMinimumHeight(44);  // what a finger needs
+  line_->addAction(magnifyingGlass(palette().color(QPalette::PlaceholderText)),
+                   QLineEdit::LeadingPosition);
+  auto* layout = new QHBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(line_);
+  setFocusProxy(line_);
+}
+
+TextField* DesktopSearchBar::searchTextField() const {
+  return &field_;
+}
+
+SearchBarValue DesktopSearchBar::valueForKey(std::string_view key) const {
+  if (key == "_searchField") return &field_;
+  fatalError("DesktopSearchBar: there is no value for the key \"" + std::string(key) + "\"");
+}
+
+std::string DesktopSearchBar::Field::text() const {
+  return toUtf8(line_.text());
+}
+
+void DesktopSearchBar::Field::setText(const std::string& text) {
+  line_.setText(fromUtf8(text));
+}
+
+}  // namespace qv_commons::desktop

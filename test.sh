@@ -1,0 +1,47 @@
+#!/usr/bin/env bash
+# Sets up, builds and passes every test. ./test.sh --quick leaves out all but the dev preset's tests.
+#
+# QV_LONG_TESTS=1 turns the random and kill tests up from their everyday size.
+set -euo pipefail
+cd "$(dirname "$0")"
+source tools/packages.sh
+
+step() { printf '\n== %s (%ss)\n' "$*" "$SECONDS"; }
+have() { command -v "$1" >/dev/null || { echo "left out: $1 is not here"; return 1; }; }
+build() { cmake --preset "$1" >"build/$1.log" 2>&1 && cmake --build --preset "$1" >>"build/$1.log" 2>&1 ||
+  { tail -n 60 "build/$1.log"; exit 1; }; }
+# Timing-sensitive widget tests share two cores badly with others of their kind.
+run_tests() { ctest --preset "$1" -j "$(nproc)" --no-tests=error "${@:2}"; }
+
+mkdir -p build
+install_packages "${core_packages[@]}" "${desktop_packages[@]}" "${tour_packages[@]}" \
+  "${test_packages[@]}"
+
+step "format"
+if have clang-format; then tools/format.sh --check; fi
+
+step "dev: everything, by g++"
+build dev
+run_tests dev
+
+if [ "${1:-}" = --quick ]; then exit; fi
+
+if have clang++; then
+  step "asan: addresses and undefined behaviour, by clang++"
+  build asan
+  run_tests asan
+
+  step "tsan: threads"
+  build tsan
+  run_tests tsan -L 'core|conformance'
+
+  step "fuzz: the targets on their corpora, then for a while on their own"
+  build fuzz
+  run_tests fuzz -L fuzz
+fi
+
+step "tidy"
+if have clang-tidy; then tools/tidy.sh; fi
+
+step "coverage of the core"
+if have gcovr || have lcov; then tools/coverage.sh; fi

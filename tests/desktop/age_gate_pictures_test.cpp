@@ -1,0 +1,84 @@
+// The screens of the age gate, pixel by pixel, with a stopped clock, one font, style and locale.
+//
+// refresh_pictures.sh draws them anew; look at each before keeping it.
+#include <QApplication>
+#include <QDir>
+#include <QPushButton>
+#include <QTest>
+
+#include "qv_commons/platform/desktop/desktop_style.h"
+
+#include "tests/desktop/age_gate_fixture.h"
+
+namespace qv_commons::desktop {
+namespace {
+
+struct Picture {
+  const char* name;
+  QSize size;
+  UserInterfaceStyle style;
+  Qt::LayoutDirection direction;
+  const char* locale;
+};
+
+constexpr auto kLight = UserInterfaceStyle::light;
+constexpr auto kDark = UserInterfaceStyle::dark;
+
+class AgeGatePictures : public AgeGateTest, public testing::WithParamInterface<Picture> {
+ protected:
+  AgeGatePictures() : AgeGateTest(GetParam().size) {
+    QApplication::setLayoutDirection(GetParam().direction);
+    DesktopSettings pinned = settings();
+    pinned.userInterfaceStyle = GetParam().style;
+    pinned.calendar = {GetParam().locale, "UTC"};
+    restart(pinned);
+  }
+  ~AgeGatePictures() override { QApplication::setLayoutDirection(Qt::LeftToRight); }
+
+  static void expectPicture(const std::string& screen, QWidget& window) {
+    const QString name = QString::fromStdString(screen) + "-" + GetParam().name +
+                         (textScale() > 1 ? "-large" : "") + ".png";
+    const QString path = QDir(QV_COMMONS_PICTURES).filePath(name);
+    const QImage drawn = window.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    if (qEnvironmentVariableIsSet("QV_COMMONS_REFRESH_PICTURES")) {
+      ASSERT_TRUE(drawn.save(path));
+      return;
+    }
+    const QImage kept = QImage(path).convertToFormat(QImage::Format_RGB32);
+    if (drawn == kept) return;
+    const QString seen = QDir::temp().filePath(name);
+    drawn.save(seen);
+    ADD_FAILURE() << "not as in " << path.toStdString() << "; drawn: " << seen.toStdString();
+  }
+};
+
+TEST_P(AgeGatePictures, AreTheSame) {
+  startAgeGate(18);
+  expectPicture("gate", *gate());
+  click(wheel(*gate(), DateField::day));
+  press(*gate(), Qt::Key_Up);
+  auto& button = view<QPushButton>(*gate(), "confirmBtn");
+  button.setFocus();
+  QTest::qWait(1);
+  expectPicture("gate-ready", *gate());
+  press(*gate(), Qt::Key_Space);
+  ASSERT_NE(refusal(), nullptr);
+  expectPicture("refusal", *refusal());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Screens, AgeGatePictures,
+    testing::Values(Picture{"phone-light", {390, 844}, kLight, Qt::LeftToRight, "en-US"},
+                    Picture{"phone-dark", {390, 844}, kDark, Qt::LeftToRight, "en-US"},
+                    Picture{"small-light", {320, 568}, kLight, Qt::LeftToRight, "en-GB"},
+                    Picture{"rtl-dark", {390, 844}, kDark, Qt::RightToLeft, "he-IL-u-ca-hebrew"},
+                    Picture{"tablet-light", {1024, 1366}, kLight, Qt::LeftToRight, "en-US"},
+                    Picture{"window-dark", {800, 600}, kDark, Qt::LeftToRight, "en-US"}),
+    [](const auto& picture) {
+      std::string name = picture.param.name;
+      name.erase(name.find('-'), 1);
+      return name;
+    });
+
+}  // namespace
+}  // namespace qv_commons::desktop

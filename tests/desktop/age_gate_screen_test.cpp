@@ -1,0 +1,282 @@
+// The age gate on its real screens, driven as a user does.
+#include <QAccessible>
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+#include <QTextBrowser>
+#include <gmock/gmock.h>
+
+#include "tests/desktop/age_gate_fixture.h"
+
+namespace qv_commons::desktop {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+// Where the character of that place is shown.
+QPoint placeOf(QTextBrowser& view, int character) {
+  QTextCursor cursor(view.document());
+  cursor.setPosition(character);
+  const QPoint left = view.cursorRect(cursor).center();
+  cursor.setPosition(character + 1);
+  return (left + view.cursorRect(cursor).center()) / 2;
+}
+
+TEST_F(AgeGateTest, AsksOverTheHostsWindowAndWaitsForTheFirstChange) {
+  startAgeGate();
+  ASSERT_NE(gate(), nullptr);
+  EXPECT_EQ(gate()->geometry(), window_->geometry());
+  EXPECT_EQ(view<WheelDatePicker>(*gate(), "datePicker").date(), kNow);
+  auto& button = view<QPushButton>(*gate(), "confirmBtn");
+  EXPECT_FALSE(button.isEnabled());
+  confirm();
+  EXPECT_EQ(completions_, 0);
+  EXPECT_NE(gate(), nullptr);
+
+  press(*gate(), Qt::Key_Up);
+  EXPECT_TRUE(button.isEnabled());
+  press(*gate(), Qt::Key_Down);
+  EXPECT_TRUE(button.isEnabled());
+  EXPECT_EQ(view<WheelDatePicker>(*gate(), "datePicker").date(), kNow);
+}
+
+TEST_F(AgeGateTest, LetsAUserWhoIsOldEnoughOnAtOnceAndNeverAsksAgain) {
+  startAgeGate(18);
+  pickYear(*gate(), "2008");
+  confirm();
+  EXPECT_EQ(completions_, 1);
+  EXPECT_EQ(gate(), nullptr);
+  EXPECT_EQ(refusal(), nullptr);
+  EXPECT_EQ(outcomeOfRestart(), "allowed");
+  EXPECT_EQ(outcomeOfRestart(), "allowed");
+}
+
+TEST_F(AgeGateTest, RefusesAUserWhoLacksADayNowAndAtEveryLaterStart) {
+  startAgeGate(18);
+  pickYear(*gate(), "2008");
+  click(wheel(*gate(), DateField::day));
+  press(*gate(), Qt::Key_Down);  // 21 November 2008: 18 tomorrow
+  confirm();
+  EXPECT_EQ(completions_, 0);
+  EXPECT_EQ(gate(), nullptr);
+  ASSERT_NE(refusal(), nullptr);
+  EXPECT_EQ(view<QLabel>(*refusal(), "header").accessibleName(),
+            "We’re sorry, Notes isn’t available to you");
+  EXPECT_EQ(outcomeOfRestart(), "refused");
+  EXPECT_EQ(outcomeOfRestart(), "refused");
+}
+
+TEST_F(AgeGateTest, StaysWhateverTheUserDoesToLeave) {
+  startAgeGate();
+  press(*gate(), Qt::Key_Escape);
+  ASSERT_NE(gate(), nullptr);
+  EXPECT_FALSE(gate()->close());
+  EXPECT_NE(gate(), nullptr);
+  pickYear(*gate(), "2020");
+  confirm();
+  press(*refusal(), Qt::Key_Escape);
+  ASSERT_NE(refusal(), nullptr);
+  EXPECT_FALSE(refusal()->close());
+  EXPECT_NE(refusal(), nullptr);
+}
+
+TEST_F(AgeGateTest, CanBeLeftBelowSystemVersion13AndAsksAgain) {
+  DesktopSettings old = settings();
+  old.systemVersion = {12, 4, 0};
+  restart(old);
+  startAgeGate();
+  press(*gate(), Qt::Key_Escape);
+  EXPECT_EQ(gate(), nullptr);
+  EXPECT_EQ(outcomeOfRestart(), "asked");
+}
+
+TEST_F(AgeGateTest, AsksForNothingBeyondAYearFromNow) {
+  startAgeGate();
+  click(wheel(*gate(), DateField::year));
+  press(*gate(), Qt::Key_End);
+  EXPECT_EQ(wheel(*gate(), DateField::year).chosenText(), "2027");
+  click(wheel(*gate(), DateField::month));
+  press(*gate(), Qt::Key_End);
+  EXPECT_EQ(wheel(*gate(), DateField::month).chosenText(), "November");
+  click(wheel(*gate(), DateField::day));
+  press(*gate(), Qt::Key_End);
+  EXPECT_EQ(view<WheelDatePicker>(*gate(), "datePicker").date(), kNow + 365 * 86400);
+}
+
+TEST_F(AgeGateTest, TakesAFutureDateForTheMinimum0) {
+  startAgeGate(0);
+  pickYear(*gate(), "2027");
+  clock_.now += 1;  // the user takes a moment
+  confirm();
+  EXPECT_EQ(completions_, 1);
+}
+
+TEST_F(AgeGateTest, WearsTheColoursOfTheTheme) {
+  const auto color = [](const Color& one) {
+    return QColor::fromRgbF(static_cast<float>(one.red), static_cast<float>(one.green),
+                            static_cast<float>(one.blue))
+        .rgb();
+  };
+  theme_ = std::make_shared<QV_AgeGateColorTheme>(Color{.1, .2, .3, 1}, Color{.9, .8, .1, 1},
+                                                  Color{.2, 0, .4, 1}, Color{1, .9, .8, 1},
+                                                  Color{.4, .9, .4, 1});
+  startAgeGate();
+  const auto& button = view<QPushButton>(*gate(), "confirmBtn");
+  const auto inkOf = [](const QWidget& widget, QPalette::ColorRole role) {
+    return widget.palette().color(role).rgb();
+  };
+  EXPECT_EQ(inkOf(view<QLabel>(*gate(), "header"), QPalette::WindowText), color({1, .9, .8, 1}));
+  EXPECT_EQ(inkOf(view<QLabel>(*gate(), "subtitle"), QPalette::WindowText), color({1, .9, .8, 1}));
+  EXPECT_EQ(inkOf(button, QPalette::ButtonText), color({.4, .9, .4, 1}));
+  press(*gate(), Qt::Key_Up);
+  EXPECT_EQ(inkOf(button, QPalette::ButtonText), color({.2, 0, .4, 1}));
+  const QImage picture = gate()->grab().toImage();
+  EXPECT_EQ(picture.pixel(20, 5), color({.1, .2, .3, 1}));
+  EXPECT_EQ(picture.pixel(button.mapTo(gate(), QPoint(12, 12))), color({.9, .8, .1, 1}));
+  auto& tos = view<QTextBrowser>(*gate(), "tos");
+  QTextCursor cursor(tos.document());
+  const auto colorAt = [&cursor](int character) {
+    cursor.setPosition(character + 1);
+    return cursor.charFormat().foreground().color().rgb();
+  };
+  EXPECT_EQ(colorAt(13), color({.4, .9, .4, 1}));
+  EXPECT_EQ(colorAt(14), color({1, .9, .8, 1}));
+  EXPECT_EQ(colorAt(17), color({.4, .9, .4, 1}));
+  EXPECT_EQ(inkOf(wheel(*gate(), DateField::year), QPalette::WindowText), QColor(Qt::white).rgb());
+}
+
+TEST_F(AgeGateTest, OpensThePolicyLinksWithTheSystem) {
+  startAgeGate();
+  auto& tos = view<QTextBrowser>(*gate(), "tos");
+  click(*tos.viewport(), placeOf(tos, 0));
+  click(*tos.viewport(), placeOf(tos, 13));
+  click(*tos.viewport(), placeOf(tos, 17));
+  click(*tos.viewport(), placeOf(tos, 32));
+  EXPECT_THAT(opened_.links,
+              ElementsAre("https://example.com/privacy", "https://example.com/privacy",
+                          "https://example.com/terms", "https://example.com/terms"));
+}
+
+TEST_F(AgeGateTest, OpensThePolicyLinksByKeyboard) {
+  startAgeGate();
+  auto& tos = view<QTextBrowser>(*gate(), "tos");
+  for (int tabs = 0; tabs < 10 && !tos.hasFocus(); ++tabs) press(*gate(), Qt::Key_Tab);
+  ASSERT_TRUE(tos.hasFocus());
+  press(*gate(), Qt::Key_Return);
+  press(*gate(), Qt::Key_Tab);
+  press(*gate(), Qt::Key_Return);
+  EXPECT_THAT(opened_.links,
+              ElementsAre("https://example.com/privacy", "https://example.com/terms"));
+}
+
+TEST_F(AgeGateTest, TakesATapNextToALinkForATapOnIt) {
+  startAgeGate();
+  auto& tos = view<QTextBrowser>(*gate(), "tos");
+  QTextCursor start(tos.document());
+  click(*tos.viewport(), tos.cursorRect(start).center() - QPoint(8, 0));
+  EXPECT_THAT(opened_.links, ElementsAre("https://example.com/privacy"));
+}
+
+TEST_F(AgeGateTest, KeepsLinksThatAreNoURLsAndOpensNothing) {
+  for (const std::string& link : {std::string(), std::string("not a URL"),
+                                  std::string(1'000'000, 'x'), std::string("\xff\xfe")}) {
+    privacyLink_ = link;
+    restart();
+    startAgeGate();
+    auto& tos = view<QTextBrowser>(*gate(), "tos");
+    click(*tos.viewport(), placeOf(tos, 3));
+    EXPECT_THAT(opened_.links, IsEmpty());
+    EXPECT_EQ(tos.toPlainText(), "Privacy Policy & Terms of Service");
+  }
+}
+
+TEST_F(AgeGateTest, OpensALinkOfAMegabyteAsItIs) {
+  privacyLink_ = "https://example.com/" + std::string(1'000'000, 'x');
+  startAgeGate();
+  auto& tos = view<QTextBrowser>(*gate(), "tos");
+  click(*tos.viewport(), placeOf(tos, 3));
+  EXPECT_THAT(opened_.links, ElementsAre(privacyLink_));
+}
+
+TEST_F(AgeGateTest, CallsTheHostForEachTapOnTheContactLinkAndNothingElse) {
+  startAgeGate();
+  pickYear(*gate(), "2020");
+  confirm();
+  auto& contact = view<QTextBrowser>(*refusal(), "contact");
+  click(*contact.viewport(), placeOf(contact, 38));
+  click(*contact.viewport(), placeOf(contact, 59));
+  ASSERT_EQ(contacts_.size(), 2U);
+  EXPECT_EQ(contacts_[0], host_->presentedViewController());
+  click(*contact.viewport(), placeOf(contact, 2));
+  EXPECT_EQ(contacts_.size(), 2U);
+  EXPECT_THAT(opened_.links, IsEmpty());
+}
+
+TEST_F(AgeGateTest, LetsTheHostPresentOverTheRefusalFromTheContactLink) {
+  startAgeGate();
+  pickYear(*gate(), "2020");
+  confirm();
+  auto& contact = view<QTextBrowser>(*refusal(), "contact");
+  click(*contact.viewport(), placeOf(contact, 45));
+  QWidget help;
+  const auto screen = desktop_->viewController(help);
+  contacts_.at(0)->presentViewController(screen, true, nullptr);
+  QTest::qWait(1);
+  EXPECT_TRUE(help.isVisible());
+  EXPECT_EQ(contacts_.at(0)->presentedViewController(), screen.get());
+  screen->dismissViewController(true, nullptr);
+  QTest::qWait(1);
+  EXPECT_FALSE(help.isVisible());
+  EXPECT_NE(refusal(), nullptr);
+}
+
+TEST_F(AgeGateTest, RemembersTheRefusalBeforeItIsPainted) {
+  startAgeGate();
+  pickYear(*gate(), "2020");
+  auto& button = view<QPushButton>(*gate(), "confirmBtn");
+  const auto isRemembered = [this] {
+    const DesktopPlatform other(settings());
+    return other.platform().userDefaults.boolForKey("QV_AgeGate_Blocked");
+  };
+  button.click();  // without a turn of the event loop
+  EXPECT_FALSE(isRemembered());
+  refusal()->grab();
+  EXPECT_TRUE(isRemembered());
+}
+
+TEST_F(AgeGateTest, GoesOnWhereNothingCanBeWritten) {
+  DesktopSettings unwritable = settings();
+  unwritable.dataDirectory = "/proc/no/such/folder";
+  restart(unwritable);
+  startAgeGate();
+  pickYear(*gate(), "2020");
+  confirm();
+  EXPECT_NE(refusal(), nullptr);
+  EXPECT_THAT(errors_, testing::Contains(testing::HasSubstr("/proc/no/such/folder")));
+  startAgeGate();
+  EXPECT_EQ(completions_, 0);
+}
+
+TEST_F(AgeGateTest, TellsAScreenReaderWhatIsWhere) {
+  startAgeGate();
+  const auto accessible = [](QWidget& widget) {
+    return QAccessible::queryAccessibleInterface(&widget);
+  };
+  Wheel& month = wheel(*gate(), DateField::month);
+  EXPECT_EQ(accessible(month)->role(), QAccessible::SpinBox);
+  EXPECT_EQ(accessible(month)->text(QAccessible::Name), "month");
+  EXPECT_EQ(accessible(month)->text(QAccessible::Value), "November");
+  accessible(wheel(*gate(), DateField::year))->valueInterface()->setCurrentValue(1980);
+  EXPECT_EQ(wheel(*gate(), DateField::year).chosenText(), "1980");
+  EXPECT_TRUE(view<QPushButton>(*gate(), "confirmBtn").isEnabled());
+  accessible(month)->actionInterface()->doAction(QAccessibleActionInterface::decreaseAction());
+  EXPECT_EQ(month.chosenText(), "October");
+  EXPECT_EQ(accessible(view<WheelDatePicker>(*gate(), "datePicker"))->text(QAccessible::Name),
+            "Date of birth");
+  EXPECT_EQ(accessible(view<QWidget>(*gate(), "header"))->text(QAccessible::Name),
+            "What’s your date of birth?");
+}
+
+}  // namespace
+}  // namespace qv_commons::desktop

@@ -1,0 +1,30 @@
+"""The README's program is the compiled example, its pictures are there, its commands are real."""
+import pathlib
+import re
+import sys
+import unittest
+
+ROOT = pathlib.Path(sys.argv.pop()).resolve()
+README = (ROOT / "README.md").read_text(encoding="utf-8")
+
+
+class Readme(unittest.TestCase):
+    def test_shows_the_compiled_example(self):
+        shown = re.search(r"```cpp\n(.*?)```", README, re.S).group(1)
+        self.assertEqual(shown, (ROOT / "examples/quickstart/main.cpp").read_text(encoding="utf-8"))
+
+    def test_links_to_files_that_are_there(self):
+        links = re.findall(r"\]\(([^)#:]+)\)", README)
+        self.assertTrue(links)
+        self.assertEqual([link for link in links if not (ROOT / link).exists()], [])
+
+    def test_names_scripts_that_can_be_run(self):
+        scripts = set(re.findall(r"\./([\w/.-]+\.sh)", README))
+        self.assertIn("run.sh", scripts)
+        self.assertIn("test.sh", scripts)
+        for script in scripts:
+            self.assertTrue((ROOT / script).stat().st_mode & 0o111, script)
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,37 @@
+# Which Debian packages the scripts need, and how they get there. To be sourced.
+
+core_packages=(g++ cmake ninja-build python3)
+desktop_packages=(qt6-base-dev qt6-tools-dev libqt6opengl6-dev libgmime-3.0-dev libicu-dev
+  libplist-dev libsqlite3-dev pkg-config fonts-inter)
+tour_packages=(msmtp python3-aiosmtpd)
+test_packages=(git clang clang-format clang-tidy llvm libclang-rt-14-dev lcov libgtest-dev libgmock-dev
+  libbenchmark-dev libssl-dev tzdata xvfb xauth)
+
+missing_packages() {
+  dpkg-query -W -f '${Package} ${db:Status-Status}\n' "$@" 2>/dev/null | awk '$2 == "installed" { print $1 }' |
+    sort -u | comm -13 - <(printf '%s\n' "$@" | sort -u)
+}
+
+# Installs those of the packages that are missing, and says which. Where that can't be done, says
+# what is needed and goes on with what is there.
+install_packages() {
+  if ! command -v dpkg-query apt-get >/dev/null; then
+    echo "This is no Debian system. Needed, by Debian's names: $*"
+    echo "Going on with what is there."
+    return
+  fi
+  local missing=() as_root=()
+  mapfile -t missing < <(missing_packages "$@")
+  if [ ${#missing[@]} -eq 0 ]; then
+    return
+  fi
+  if [ "$(id -u)" -ne 0 ]; then
+    as_root=(sudo)
+  fi
+  echo "Installing: ${missing[*]}"
+  if ! { "${as_root[@]}" apt-get update -qq &&
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq \
+      --no-install-recommends "${missing[@]}" >/dev/null; }; then
+    echo "They could not be installed. Going on with what is there."
+  fi
+}
