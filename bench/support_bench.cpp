@@ -78,5 +78,3 @@ void decimalText(benchmark::State& state) {
 BENCHMARK(decimalText)->ArgName("digits17")->Arg(0)->Arg(1);
 
 }  // namespace
-
-BENCHMARK_MAIN();

@@ -28,6 +28,7 @@ class Link : public NativeViewController {
   void dismissViewController(bool, Completion) override {}
   void setModalInPresentation(bool) override {}
   void setOverrideUserInterfaceStyle(UserInterfaceStyle) override {}
+  std::shared_ptr<ViewController> retained() override { return nullptr; }
   ViewController* presentedViewController() const override {
     return next == nullptr ? nullptr : &next->controller;
   }

@@ -36,7 +36,7 @@ struct DesktopSettings {
   // Where the library's resource bundle is, for a host that keeps it somewhere else than next to
   // its own program or library. Empty: there, as share/qv_commons/QV_Commons_iOS.bundle of the same
   // prefix or in the program's own folder.
-  std::string resourceDirectory;
+  std::string resourceDirectory = {};
 
   // Where what lasts is kept, the drafts in its folder "drafts", the user defaults in a file named
   // after the host's bundle identifier. Empty: the folder that the system
@@ -58,7 +58,7 @@ struct DesktopSettings {
   OperatingSystemVersion systemVersion = {17, 0, 0};
 
   // By which dates of birth are picked and judged.
-  CalendarSettings calendar;
+  CalendarSettings calendar = {};
 
   // Light or dark; `unspecified` follows the desktop's settings.
   UserInterfaceStyle userInterfaceStyle = UserInterfaceStyle::unspecified;
