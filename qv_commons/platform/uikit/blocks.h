@@ -7,14 +7,11 @@
 
 namespace qv_commons::uikit {
 
-// A copy of the block, kept while it runs even where it lets go of whatever holds the closure.
 template <class... Arguments>
 std::function<void(Arguments...)> toClosure(void (^block)(Arguments...)) {
   if (block == nil) return nullptr;
-  return [copy = [block copy]](Arguments... arguments) {
-    __attribute__((objc_precise_lifetime)) void (^kept)(Arguments...) = copy;
-    kept(arguments...);
-  };
+  void (^copy)(Arguments...) = [block copy];
+  return [copy](Arguments... arguments) { copy(arguments...); };
 }
 
 inline void (^toBlock(Completion completion))(void) {
