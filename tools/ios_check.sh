@@ -30,7 +30,7 @@ fi
 
 # -isystem in this order: libc++ wraps C headers, which it finds after its own.
 cat >"$out/flags" <<FLAGS
--target arm64-apple-ios11.0 -c -O1
+-target arm64-apple-ios11.0 -c
 -nostdinc -nostdinc++ -isystem $out/config -isystem tools/ios_sysroot -isystem $libcxx
 -isystem $(clang-19 -print-resource-dir)/include -isystem $(echo /usr/include/*-linux-musl)
 -isystem $objc -isystem tests/uikit_standin -isystem /usr/include/GNUstep
