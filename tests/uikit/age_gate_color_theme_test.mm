@@ -1,6 +1,7 @@
 // The theme by its selectors.
 #import "qv_commons/platform/uikit/QV_AgeGateColorTheme_Core.h"
 #import "qv_commons/platform/uikit/uikit_views.h"
+
 #import "tests/uikit/uikit_test.h"
 
 using qv_commons::uikit::toColor;
@@ -23,9 +24,8 @@ class UIKitTheme : public UIKitTest {
 
   const std::vector<std::string> light = {"(0, 0, 0, 1)", "(1, 1, 1, 1)", "(1, 1, 1, 1)",
                                           "(0.29, 0.29, 0.29, 1)", "(0.514, 0.514, 0.514, 1)"};
-  const std::vector<std::string> dark = {"(1, 1, 1, 1)", "(0, 0, 0, 1)",
-                                         "(0.118, 0.118, 0.118, 1)", "(1, 1, 1, 1)",
-                                         "(0.541, 0.541, 0.541, 1)"};
+  const std::vector<std::string> dark = {"(1, 1, 1, 1)", "(0, 0, 0, 1)", "(0.118, 0.118, 0.118, 1)",
+                                         "(1, 1, 1, 1)", "(0.541, 0.541, 0.541, 1)"};
 };
 
 TEST_F(UIKitTheme, IsDarkOnADarkDeviceFromSystem13On) {

@@ -3,6 +3,7 @@
 
 #import "qv_commons/platform/uikit/QV_AgeGateRefusedViewController.h"
 #import "qv_commons/platform/uikit/QV_AgeGateViewController.h"
+
 #import "tests/uikit/uikit_test.h"
 
 namespace {

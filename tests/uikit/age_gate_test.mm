@@ -12,20 +12,19 @@ TEST_F(UIKitAgeGate, PresentsTheScreenAndDressesIt) {
   start();
   EXPECT_THAT(
       lines(),
-      ElementsAre(
-          "QV_AgeGateViewController setModalInPresentation:1",
-          "home presentViewController:QV_AgeGateViewController animated:1 completion:nil",
-          "bg setBackgroundColor:host background", "bg.layer setCornerRadius:8",
-          "bg setClipsToBounds:1", "header setTextColor:host text",
-          "subtitle setTextColor:host text", "confirmBtn.layer setCornerRadius:8",
-          "confirmBtn setClipsToBounds:1", "confirmBtn setEnabled:0",
-          "confirmBtn setTitleColor:host policies text forState:2",
-          "confirmBtn setTitleColor:host button text forState:0",
-          "confirmBtn setBackgroundColor:host button background",
-          "tos setLinkTextAttributes:{NSColor=host policies text}",
-          "tos setAttributedText:\"Privacy Policy & Terms of Service\"",
-          "tos setTextColor:host text", "datePicker setMaximumDate:1731622400.000",
-          "datePicker setDate:1700000000.000"));
+      ElementsAre("QV_AgeGateViewController setModalInPresentation:1",
+                  "home presentViewController:QV_AgeGateViewController animated:1 completion:nil",
+                  "bg setBackgroundColor:host background", "bg.layer setCornerRadius:8",
+                  "bg setClipsToBounds:1", "header setTextColor:host text",
+                  "subtitle setTextColor:host text", "confirmBtn.layer setCornerRadius:8",
+                  "confirmBtn setClipsToBounds:1", "confirmBtn setEnabled:0",
+                  "confirmBtn setTitleColor:host policies text forState:2",
+                  "confirmBtn setTitleColor:host button text forState:0",
+                  "confirmBtn setBackgroundColor:host button background",
+                  "tos setLinkTextAttributes:{NSColor=host policies text}",
+                  "tos setAttributedText:\"Privacy Policy & Terms of Service\"",
+                  "tos setTextColor:host text", "datePicker setMaximumDate:1731622400.000",
+                  "datePicker setDate:1700000000.000"));
   EXPECT_EQ(completions, 0);
 }
 

@@ -2,6 +2,7 @@
 #include "qv_commons/app_info/app_info.h"
 
 #import "qv_commons/platform/uikit/uikit_bundle.h"
+
 #import "tests/uikit/temporary_folder.h"
 #import "tests/uikit/uikit_test.h"
 
@@ -49,8 +50,7 @@ TEST_F(UIKitAppInfo, HasEmptyTextsForWhatIsMissing) {
 }
 
 TEST_F(UIKitAppInfo, KeepsTextsThatAreNoAscii) {
-  const UIKitBundle app =
-      appWith(@"<key>CFBundleDisplayName</key><string>Notizbücher 📓</string>");
+  const UIKitBundle app = appWith(@"<key>CFBundleDisplayName</key><string>Notizbücher 📓</string>");
   EXPECT_EQ(appNameOf(app), "Notizbücher 📓");
 }
 
@@ -67,8 +67,7 @@ TEST_F(UIKitAppInfo, TellsTheTypesOfValuesApart) {
   EXPECT_EQ(app.objectForInfoDictionaryKey("real"), InfoDictionaryValue(0.5));
   EXPECT_EQ(app.objectForInfoDictionaryKey("true"), InfoDictionaryValue(true));
   EXPECT_EQ(app.objectForInfoDictionaryKey("false"), InfoDictionaryValue(false));
-  EXPECT_EQ(app.objectForInfoDictionaryKey("list"),
-            InfoDictionaryValue(qv_commons::OtherObject()));
+  EXPECT_EQ(app.objectForInfoDictionaryKey("list"), InfoDictionaryValue(qv_commons::OtherObject()));
   EXPECT_EQ(app.objectForInfoDictionaryKey("none"), InfoDictionaryValue());
 }
 

@@ -133,16 +133,16 @@ TEST_F(BadInputOfTheAgeGate, ABlockMayLetGoOfItsOwner) {
   @autoreleasepool {
     home = standin::makeViewController(@"home");
     [QV_AgeGateHelper startAgeGateProcessWithViewController:home
-        minimumAgeRequired:18
-        completion:^{
-          home = nil;
-          standin::finishTransitions();
-          [told addObject:@"through"];
-        }
-        contactUsHandler:nil
-        colorTheme:makeTheme()
-        privacyLink:@""
-        termsOfServiceLink:@""];
+                                         minimumAgeRequired:18
+                                                 completion:^{
+                                                   home = nil;
+                                                   standin::finishTransitions();
+                                                   [told addObject:@"through"];
+                                                 }
+                                           contactUsHandler:nil
+                                                 colorTheme:makeTheme()
+                                                privacyLink:@""
+                                         termsOfServiceLink:@""];
     screen = gate();
     pick(screen, kEighteenYearsAgo);
     confirm(screen);
@@ -158,16 +158,16 @@ TEST_F(BadInputOfTheAgeGate, AContactHandlerMayLetGoOfTheRefusal) {
   @autoreleasepool {
     home = standin::makeViewController(@"home");
     [QV_AgeGateHelper startAgeGateProcessWithViewController:home
-        minimumAgeRequired:18
-        completion:nil
-        contactUsHandler:^(UIViewController* refused) {
-          [home dismissViewControllerAnimated:NO completion:nil];
-          home = nil;
-          [told addObject:NSStringFromClass([refused class])];
-        }
-        colorTheme:makeTheme()
-        privacyLink:@""
-        termsOfServiceLink:@""];
+                                         minimumAgeRequired:18
+                                                 completion:nil
+                                           contactUsHandler:^(UIViewController* refused) {
+                                             [home dismissViewControllerAnimated:NO completion:nil];
+                                             home = nil;
+                                             [told addObject:NSStringFromClass([refused class])];
+                                           }
+                                                 colorTheme:makeTheme()
+                                                privacyLink:@""
+                                         termsOfServiceLink:@""];
     screen = refusal();
     EXPECT_TRUE(standin::tapLink([screen contact], 38));
   }

@@ -7,14 +7,14 @@ class UIKitBareApp : public UIKitTest {
  protected:
   NSString* problemOfStart() {
     return catchException(^{
-             [QV_AgeGateHelper startAgeGateProcessWithViewController:home
-                                                  minimumAgeRequired:18
-                                                          completion:nil
-                                                    contactUsHandler:nil
-                                                          colorTheme:[QV_AgeGateColorTheme
-                                                                         defaultTheme]
-                                                         privacyLink:@""
-                                                  termsOfServiceLink:@""];
+             [QV_AgeGateHelper
+                 startAgeGateProcessWithViewController:home
+                                    minimumAgeRequired:18
+                                            completion:nil
+                                      contactUsHandler:nil
+                                            colorTheme:[QV_AgeGateColorTheme defaultTheme]
+                                           privacyLink:@""
+                                    termsOfServiceLink:@""];
            })
         .reason;
   }

@@ -2,6 +2,7 @@
 #import "qv_commons/platform/uikit/uikit_bundle.h"
 #import "qv_commons/platform/uikit/uikit_node.h"
 #import "qv_commons/platform/uikit/uikit_platform.h"
+
 #include "tests/conformance/bundle_resources_conformance.h"
 #include "tests/conformance/calendar_conformance.h"
 #include "tests/conformance/screens_conformance.h"
@@ -20,9 +21,8 @@ class UIKitAdapter final : public Adapter {
  public:
   void useMainBundle(const MainBundle& bundle) override {
     bundles_.writeInfo(bundle.info, bundle.identifier);
-    standin::setReceiptURL(bundle.namesReceiptLocation
-                               ? [NSURL fileURLWithPath:@"/nowhere/StoreKit/receipt"]
-                               : nil);
+    standin::setReceiptURL(
+        bundle.namesReceiptLocation ? [NSURL fileURLWithPath:@"/nowhere/StoreKit/receipt"] : nil);
   }
   void useSystemVersion(const OperatingSystemVersion& version) override {
     standin::setSystemVersion(version.majorVersion, version.minorVersion, version.patchVersion);
@@ -85,7 +85,9 @@ class UIKitAdapter final : public Adapter {
   ShownMessage shown(MailComposer& composer) override {
     const standin::Mail& mail = standin::mailOf(native(composer));
     ShownMessage shown{[mail.toRecipients componentsJoinedByString:@", "].UTF8String,
-                       mail.subject.UTF8String, mail.body.UTF8String, {}};
+                       mail.subject.UTF8String,
+                       mail.body.UTF8String,
+                       {}};
     for (const auto& attachment : mail.attachments) {
       shown.attachmentNames.push_back(attachment.fileName.UTF8String);
     }

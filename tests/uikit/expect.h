@@ -3,7 +3,6 @@
 
 #import <Foundation/Foundation.h>
 #include <gtest/gtest.h>
-
 #include <string>
 
 // Both equal by isEqual:, or both nil.
@@ -13,8 +12,8 @@ inline std::string describeObject(id object) {
   return object == nil ? "nil" : [object description].UTF8String;
 }
 
-inline testing::AssertionResult expectEqualObjects(const char* actualText, const char*,
-                                                   id actual, id expected) {
+inline testing::AssertionResult expectEqualObjects(const char* actualText, const char*, id actual,
+                                                   id expected) {
   if (actual == expected || [actual isEqual:expected]) return testing::AssertionSuccess();
   return testing::AssertionFailure() << actualText << "\n  is " << describeObject(actual)
                                      << "\n  not " << describeObject(expected);

@@ -6,16 +6,17 @@
 #include <optional>
 #include <string>
 
+#include "qv_commons/platform/platform.h"
 #import "qv_commons/platform/uikit/text.h"
 #import "qv_commons/platform/uikit/uikit_bundle.h"
-#include "qv_commons/platform/platform.h"
+
 #import "tests/uikit/temporary_folder.h"
 
 class FolderBundles final : public qv_commons::Bundles {
  public:
   FolderBundles() {
-    NSString* resources = [NSBundle.mainBundle.bundlePath
-        stringByAppendingPathComponent:@"QV_Commons_iOS.bundle"];
+    NSString* resources =
+        [NSBundle.mainBundle.bundlePath stringByAppendingPathComponent:@"QV_Commons_iOS.bundle"];
     [NSFileManager.defaultManager
         copyItemAtPath:resources
                 toPath:[library_.path() stringByAppendingPathComponent:@"QV_Commons_iOS.bundle"]
@@ -60,11 +61,11 @@ class FolderBundles final : public qv_commons::Bundles {
     NSMutableDictionary* entries = [NSMutableDictionary dictionary];
     for (const auto& [key, value] : info) entries[toNSString(key)] = toObject(value);
     if (identifier) entries[@"CFBundleIdentifier"] = toNSString(*identifier);
-    [entries writeToFile:[main_.path() stringByAppendingPathComponent:@"Info.plist"]
-              atomically:NO];
+    [entries writeToFile:[main_.path() stringByAppendingPathComponent:@"Info.plist"] atomically:NO];
   }
 
-  qv_commons::FileLocation addToMainBundle(const std::string& name, const std::string& bytes) const {
+  qv_commons::FileLocation addToMainBundle(const std::string& name,
+                                           const std::string& bytes) const {
     NSString* path =
         [main_.path() stringByAppendingPathComponent:qv_commons::uikit::toNSString(name)];
     std::ofstream(path.UTF8String, std::ios::binary) << bytes;
@@ -82,9 +83,7 @@ class FolderBundles final : public qv_commons::Bundles {
   static id toObject(const qv_commons::InfoDictionaryValue& value) {
     struct Visitor {
       id operator()(std::monostate) const { return nil; }
-      id operator()(const std::string& text) const {
-        return qv_commons::uikit::toNSString(text);
-      }
+      id operator()(const std::string& text) const { return qv_commons::uikit::toNSString(text); }
       id operator()(std::int64_t number) const { return @(number); }
       id operator()(double number) const { return @(number); }
       id operator()(bool flag) const { return flag ? @YES : @NO; }

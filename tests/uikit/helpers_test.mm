@@ -112,9 +112,10 @@ TEST_F(UIKitTopViewController, IsTheTabBarControllerItselfWhereNoTabIsSelected) 
 }
 
 TEST_F(UIKitTopViewController, IsWhatPresentedTheAlert) {
-  UIAlertController* alert = [UIAlertController alertControllerWithTitle:nil
-                                                                 message:nil
-                                                          preferredStyle:UIAlertControllerStyleAlert];
+  UIAlertController* alert =
+      [UIAlertController alertControllerWithTitle:nil
+                                          message:nil
+                                   preferredStyle:UIAlertControllerStyleAlert];
   EXPECT_OBJECT(top(alert), nil);
   [home presentViewController:alert animated:NO completion:nil];
   EXPECT_EQ(top(home), home);

@@ -1,11 +1,10 @@
 // Runs the tests as an app of their own: with user defaults that nobody else writes, and an
 // autorelease pool for each test.
 #import <Foundation/Foundation.h>
-#include <gtest/gtest.h>
-
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <gtest/gtest.h>
 #include <optional>
 #include <string>
 
@@ -13,7 +12,9 @@
 
 // gnustep-base keeps what it once made; only what the tests leak is of interest, and can't be told
 // apart.
-extern "C" const char* __asan_default_options() { return "detect_leaks=0"; }
+extern "C" const char* __asan_default_options() {
+  return "detect_leaks=0";
+}
 
 // What @autoreleasepool is made of.
 extern "C" void* objc_autoreleasePoolPush(void);

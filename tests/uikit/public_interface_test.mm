@@ -1,11 +1,11 @@
 // Asks the run-time for every public operation, and for what the screens' layouts call.
-#include <objc/runtime.h>
-
 #include <fstream>
+#include <objc/runtime.h>
 #include <sstream>
 
 #import "qv_commons/platform/uikit/QV_AgeGateRefusedViewController.h"
 #import "qv_commons/platform/uikit/QV_AgeGateViewController.h"
+
 #import "tests/uikit/uikit_test.h"
 
 namespace {
@@ -65,32 +65,30 @@ TEST_F(UIKitPublicInterface, HasNoOtherRequiredOperationInTheDelegate) {
 }
 
 TEST_F(UIKitPublicInterface, IsMadeOfPlainObjects) {
-  for (const char* name :
-       {"QV_AgeGateColorTheme", "QV_AgeGateHelper", "QV_AppInfoHelper", "QV_BundleFileHelper",
-        "QV_Links", "QV_RateHelper", "QV_SupportHelper", "QV_TimeHelper",
-        "QV_ViewControllerHelper"}) {
+  for (const char* name : {"QV_AgeGateColorTheme", "QV_AgeGateHelper", "QV_AppInfoHelper",
+                           "QV_BundleFileHelper", "QV_Links", "QV_RateHelper", "QV_SupportHelper",
+                           "QV_TimeHelper", "QV_ViewControllerHelper"}) {
     EXPECT_EQ(class_getSuperclass(objc_lookUpClass(name)), [NSObject class]) << name;
   }
   EXPECT_NE([QV_AgeGateHelper new], nil);
   EXPECT_NE([QV_TimeHelper new], nil);
-  EXPECT_TRUE(
-      [QV_SupportHelper conformsToProtocol:@protocol(MFMailComposeViewControllerDelegate)]);
+  EXPECT_TRUE([QV_SupportHelper conformsToProtocol:@protocol(MFMailComposeViewControllerDelegate)]);
 }
 
 TEST_F(UIKitPublicInterface, HidesTheThemesFields) {
-  for (const char* field : {"buttonBGColor", "setButtonBGColor:", "buttonTextColor",
-                            "setButtonTextColor:", "backgroundColor", "setBackgroundColor:",
-                            "textColor", "setTextColor:", "policiesTextColor",
-                            "setPoliciesTextColor:"}) {
+  for (const char* field :
+       {"buttonBGColor", "setButtonBGColor:", "buttonTextColor",
+        "setButtonTextColor:", "backgroundColor", "setBackgroundColor:", "textColor",
+        "setTextColor:", "policiesTextColor", "setPoliciesTextColor:"}) {
     EXPECT_FALSE(instancesRespond([QV_AgeGateColorTheme class], field)) << field;
   }
 }
 
 TEST_F(UIKitPublicInterface, HasTheScreensOutletsAndActions) {
-  for (const char* selector :
-       {"initWithNibName:bundle:", "initWithCoder:", "viewDidLoad", "onDateChanged:",
-        "onConfirmPressed:", "bg", "setBg:", "confirmBtn", "setConfirmBtn:", "datePicker",
-        "setDatePicker:", "tos", "setTos:", "header", "setHeader:", "subtitle", "setSubtitle:"}) {
+  for (const char* selector : {"initWithNibName:bundle:", "initWithCoder:", "viewDidLoad",
+                               "onDateChanged:", "onConfirmPressed:", "bg", "setBg:", "confirmBtn",
+                               "setConfirmBtn:", "datePicker", "setDatePicker:", "tos",
+                               "setTos:", "header", "setHeader:", "subtitle", "setSubtitle:"}) {
     EXPECT_TRUE(instancesRespond([QV_AgeGateViewController class], selector)) << selector;
   }
   for (const char* selector :

@@ -38,9 +38,8 @@ TEST_F(UIKitSupport, FillsAComposerAndPresentsIt) {
 }
 
 TEST_F(UIKitSupport, TellsTheDelegateOnceTheComposerIsGone) {
-  for (const MFMailComposeResult result :
-       {MFMailComposeResultCancelled, MFMailComposeResultSaved, MFMailComposeResultSent,
-        MFMailComposeResultFailed}) {
+  for (const MFMailComposeResult result : {MFMailComposeResultCancelled, MFMailComposeResultSaved,
+                                           MFMailComposeResultSent, MFMailComposeResultFailed}) {
     contact();
     lines();
     NSError* error = [NSError errorWithDomain:@"mail" code:1 userInfo:nil];
@@ -81,12 +80,13 @@ TEST_F(UIKitSupport, SaysOnTheConsoleThatTheReceiptCannotBeRead) {
 TEST_F(UIKitSupport, ShowsAnAlertWhereNoMailCanBeSent) {
   standin::setCanSendMail(false);
   contact();
-  EXPECT_THAT(lines(),
-              ElementsAre("MFMailComposeViewController canSendMail",
-                          "UIAlertController alertControllerWithTitle:\"Error\" message:\"Please "
-                          "configure your email account in the Settings.\" preferredStyle:1",
-                          "UIAlertController addAction:\"OK\" style:0 handler:nil",
-                          "home presentViewController:UIAlertController animated:1 completion:nil"));
+  EXPECT_THAT(
+      lines(),
+      ElementsAre("MFMailComposeViewController canSendMail",
+                  "UIAlertController alertControllerWithTitle:\"Error\" message:\"Please "
+                  "configure your email account in the Settings.\" preferredStyle:1",
+                  "UIAlertController addAction:\"OK\" style:0 handler:nil",
+                  "home presentViewController:UIAlertController animated:1 completion:nil"));
   auto* alert = static_cast<UIAlertController*>(home.presentedViewController);
   standin::tap(alert.actions[0]);
   standin::finishTransitions();

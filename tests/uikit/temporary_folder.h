@@ -2,7 +2,6 @@
 #pragma once
 
 #import <Foundation/Foundation.h>
-
 #include <cstdlib>
 #include <string>
 

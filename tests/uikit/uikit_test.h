@@ -4,7 +4,6 @@
 #import <QV_Commons_iOS/QV_Commons_iOS.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
 #include <string>
 #include <utility>
 #include <vector>

@@ -3,7 +3,6 @@
 #pragma once
 
 #import <Foundation/Foundation.h>
-
 #include <string>
 
 @interface UnitsString : NSString

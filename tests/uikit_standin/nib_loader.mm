@@ -53,7 +53,7 @@ NSDictionary<NSString*, NSNumber*>* controlEvents() {
   NSString* _path;
   id _owner;
   NSMutableDictionary<NSString*, id>* _objects;  // by id
-  NSMutableArray* _open;      // the object of each open element, null where it makes none
+  NSMutableArray* _open;  // the object of each open element, null where it makes none
   NSMutableArray<NSString*>* _openNames;
   NSMutableArray<StandinConnection*>* _connections;
   NSMutableString* _characters;
@@ -72,8 +72,7 @@ NSDictionary<NSString*, NSNumber*>* controlEvents() {
 }
 
 - (void)load {
-  NSXMLParser* parser =
-      [[NSXMLParser alloc] initWithData:[NSData dataWithContentsOfFile:_path]];
+  NSXMLParser* parser = [[NSXMLParser alloc] initWithData:[NSData dataWithContentsOfFile:_path]];
   parser.delegate = self;
   if (![parser parse]) fail(_path, @"not well-formed XML");
   for (StandinConnection* each in _connections) [self connect:each];

@@ -1,6 +1,5 @@
-#include <objc/runtime.h>
-
 #include <deque>
+#include <objc/runtime.h>
 
 #import "tests/uikit_standin/standin.h"
 
@@ -23,6 +22,21 @@ NSString* componentsOf(UIColor* color) {
 
 }  // namespace
 
+void reset() {
+  finishTransitions();
+  setNow(1700000000);
+  setSystemVersion(14, 4);
+  setModel(@"iPhone");
+  setScreenSize(NSMakeSize(375, 667));
+  setUserInterfaceStyle(UIUserInterfaceStyleLight);
+  setReceiptURL(nil);
+  setCanSendMail(true);
+  [openedURLs() removeAllObjects];
+  [NSUserDefaults.standardUserDefaults removeObjectForKey:@"QV_AgeGate_Shown"];
+  [NSUserDefaults.standardUserDefaults removeObjectForKey:@"QV_AgeGate_Blocked"];
+  record().clear();
+}
+
 std::vector<std::string>& record() {
   static auto* const lines = new std::vector<std::string>;
   return *lines;
@@ -38,9 +52,13 @@ void note(NSString* format, ...) {
   record().emplace_back(static_cast<const char*>(bytes.bytes), bytes.length);
 }
 
-RecordPause::RecordPause() { ++pauses; }
+RecordPause::RecordPause() {
+  ++pauses;
+}
 
-RecordPause::~RecordPause() { --pauses; }
+RecordPause::~RecordPause() {
+  --pauses;
+}
 
 void setName(id object, NSString* name) {
   objc_setAssociatedObject(object, &kName, name, OBJC_ASSOCIATION_RETAIN_NONATOMIC);
@@ -62,7 +80,9 @@ void afterTransition(BOOL animated, void (^done)(void)) {
   }
 }
 
-std::size_t waitingTransitions() { return transitions().size(); }
+std::size_t waitingTransitions() {
+  return transitions().size();
+}
 
 void finishTransition() {
   if (transitions().empty()) return;

@@ -13,14 +13,13 @@
 #pragma once
 
 #import <MessageUI/MessageUI.h>
-
 #include <string>
 #include <vector>
 
 namespace standin {
 
-// Everything as at the start of a test: 2023-11-14 22:13:20 UTC, system 14.4 on an "iPhone" of 375 by
-// 667 points in the light look, mail set up, empty records, empty user defaults, no receipt.
+// Everything as at the start of a test: 2023-11-14 22:13:20 UTC, system 14.4 on an "iPhone" of 375
+// by 667 points in the light look, mail set up, empty records, empty user defaults, no receipt.
 void reset();
 
 std::vector<std::string>& record();
@@ -61,7 +60,7 @@ void finishTransitions();
 std::size_t waitingTransitions();
 
 // What the user does.
-void tap(UIAlertAction* action);             // on a button of an alert on the screen
+void tap(UIAlertAction* action);                       // on a button of an alert on the screen
 bool tapLink(UITextView* textView, NSUInteger index);  // on the character; false: no link there
 bool swipeAway(UIViewController* controller);          // false: the screen can't be swiped away
 

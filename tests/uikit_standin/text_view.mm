@@ -68,7 +68,8 @@ bool standin::tapLink(UITextView* textView, NSUInteger index) {
   NSURL* url = [link isKindOfClass:[NSURL class]] ? link : [NSURL URLWithString:link];
   if (url == nil) return false;
   id<UITextViewDelegate> delegate = textView.delegate;
-  if ([delegate respondsToSelector:@selector(textView:shouldInteractWithURL:inRange:interaction:)] &&
+  if ([delegate respondsToSelector:@selector(textView:
+                                       shouldInteractWithURL:inRange:interaction:)] &&
       ![delegate textView:textView
           shouldInteractWithURL:url
                         inRange:range

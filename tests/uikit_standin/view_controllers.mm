@@ -43,7 +43,7 @@ using standin::note;
 - (void)loadViewIfNeeded {
   if (_viewLoaded) return;
   if (_nibName == nil) {
-    _view = [UIView new];
+    if (_view == nil) _view = [UIView new];
   } else {
     NSBundle* bundle = _nibBundle ?: NSBundle.mainBundle;
     NSString* path = [bundle pathForResource:_nibName ofType:@"xib"];

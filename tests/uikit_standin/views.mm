@@ -21,10 +21,7 @@ using standin::note;
 @implementation UIColor {
   CGFloat _components[4];
 }
-+ (UIColor*)colorWithRed:(CGFloat)red
-                   green:(CGFloat)green
-                    blue:(CGFloat)blue
-                   alpha:(CGFloat)alpha {
++ (UIColor*)colorWithRed:(CGFloat)red green:(CGFloat)green blue:(CGFloat)blue alpha:(CGFloat)alpha {
   UIColor* color = [UIColor new];
   color->_components[0] = red;
   color->_components[1] = green;

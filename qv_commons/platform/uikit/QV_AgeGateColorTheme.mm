@@ -1,9 +1,8 @@
-#import "qv_commons/platform/uikit/QV_AgeGateColorTheme_Core.h"
-
 #include <utility>
 
-#import "qv_commons/platform/uikit/uikit_views.h"
 #include "qv_commons/platform/fatal_error.h"
+#import "qv_commons/platform/uikit/QV_AgeGateColorTheme_Core.h"
+#import "qv_commons/platform/uikit/uikit_views.h"
 
 @implementation QV_AgeGateColorTheme {
   std::shared_ptr<qv_commons::QV_AgeGateColorTheme> _core;
@@ -20,10 +19,10 @@
                               textColor:(UIColor*)textColor
                       policiesTextColor:(UIColor*)policiesTextColor {
   using qv_commons::uikit::toColor;
-  return [self initWithCore:std::make_shared<qv_commons::QV_AgeGateColorTheme>(
-                                toColor(backgroundColor), toColor(buttonBackgroundColor),
-                                toColor(buttonTextColor), toColor(textColor),
-                                toColor(policiesTextColor))];
+  return [self
+      initWithCore:std::make_shared<qv_commons::QV_AgeGateColorTheme>(
+                       toColor(backgroundColor), toColor(buttonBackgroundColor),
+                       toColor(buttonTextColor), toColor(textColor), toColor(policiesTextColor))];
 }
 
 - (instancetype)init {
@@ -32,8 +31,8 @@
 }
 
 + (QV_AgeGateColorTheme*)defaultTheme {
-  return [[QV_AgeGateColorTheme alloc]
-      initWithCore:qv_commons::QV_AgeGateColorTheme::defaultTheme()];
+  return
+      [[QV_AgeGateColorTheme alloc] initWithCore:qv_commons::QV_AgeGateColorTheme::defaultTheme()];
 }
 
 - (std::shared_ptr<qv_commons::QV_AgeGateColorTheme>)core {

@@ -2,11 +2,11 @@
 
 #include <utility>
 
+#include "qv_commons/platform/fatal_error.h"
 #import "qv_commons/platform/uikit/attachment.h"
 #import "qv_commons/platform/uikit/text.h"
 #import "qv_commons/platform/uikit/uikit_mail.h"
 #import "qv_commons/platform/uikit/uikit_node.h"
-#include "qv_commons/platform/fatal_error.h"
 #include "qv_commons/support/support_helper.h"
 
 namespace {

@@ -1,5 +1,4 @@
 #import "qv_commons/platform/uikit/include/QV_Commons_iOS/UISearchBar+QV_SearchBar.h"
-
 #import "qv_commons/platform/uikit/uikit_search_bar.h"
 
 @implementation UISearchBar (QV_SearchBar)

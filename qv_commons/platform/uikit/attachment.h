@@ -5,7 +5,6 @@
 #pragma once
 
 #import <Foundation/Foundation.h>
-
 #include <memory>
 
 namespace qv_commons::uikit {

@@ -1,7 +1,6 @@
 #import "qv_commons/platform/uikit/attachment.h"
 
 #include <objc/runtime.h>
-
 #include <utility>
 
 @interface QV_Attachment : NSObject {

@@ -15,7 +15,6 @@
 #pragma once
 
 #import <UIKit/UIKit.h>
-
 #include <memory>
 
 #include "qv_commons/platform/layout_loader.h"

@@ -4,11 +4,11 @@
 #include <type_traits>
 #include <utility>
 
+#include "qv_commons/platform/fatal_error.h"
 #import "qv_commons/platform/uikit/text.h"
 #import "qv_commons/platform/uikit/uikit_bundle.h"
 #import "qv_commons/platform/uikit/uikit_node.h"
 #import "qv_commons/platform/uikit/uikit_views.h"
-#include "qv_commons/platform/fatal_error.h"
 
 namespace qv_commons::uikit {
 namespace {
@@ -125,11 +125,12 @@ std::shared_ptr<LayoutScreen> UIKitLayoutLoader::initWithNibName(std::string_vie
   NSString* nibName = toNSString(name);
   const Class type = NSClassFromString(nibName);
   if (![type isSubclassOfClass:[QV_LayoutViewController class]]) {
-    fatalError(std::string("LayoutLoader: no screen class bears the name of the layout ")
-                   .append(name));
+    fatalError(
+        std::string("LayoutLoader: no screen class bears the name of the layout ").append(name));
   }
-  QV_LayoutViewController* controller =
-      [[type alloc] initWithNibName:nibName bundle:toNSBundle(bundle.get()) factory:make];
+  QV_LayoutViewController* controller = [[type alloc] initWithNibName:nibName
+                                                               bundle:toNSBundle(bundle.get())
+                                                              factory:make];
   return std::static_pointer_cast<LayoutScreen>(retainedViewController(controller));
 }
 

@@ -5,7 +5,6 @@
 #pragma once
 
 #import <Foundation/Foundation.h>
-
 #include <optional>
 #include <string>
 #include <string_view>

@@ -68,8 +68,7 @@ NSArray<NSString*>* toNSArray(const std::vector<std::string>& texts) {
 
 std::string toString(NSString* text) {
   std::u16string units(text.length, u'\0');
-  [text getCharacters:reinterpret_cast<unichar*>(units.data())
-                range:NSMakeRange(0, units.size())];
+  [text getCharacters:reinterpret_cast<unichar*>(units.data()) range:NSMakeRange(0, units.size())];
   std::string utf8;
   utf8.reserve(units.size());
   for (std::size_t at = 0; at < units.size(); ++at) {

@@ -1,9 +1,8 @@
 // Alerts by UIAlertController.
 #pragma once
 
-#import "qv_commons/platform/uikit/uikit_node.h"
-
 #include "qv_commons/platform/alert.h"
+#import "qv_commons/platform/uikit/uikit_node.h"
 
 namespace qv_commons::uikit {
 

@@ -3,9 +3,8 @@
 
 #import <MessageUI/MessageUI.h>
 
-#import "qv_commons/platform/uikit/uikit_node.h"
-
 #include "qv_commons/platform/mail_composer.h"
+#import "qv_commons/platform/uikit/uikit_node.h"
 
 namespace qv_commons::uikit {
 

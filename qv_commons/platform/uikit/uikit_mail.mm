@@ -1,5 +1,6 @@
 #import "qv_commons/platform/uikit/uikit_mail.h"
 
+#include <mutex>
 #include <unordered_map>
 #include <utility>
 
@@ -28,9 +29,21 @@ namespace {
 using NativeDelegates =
     std::unordered_map<const MailComposeDelegate*, __weak id<MFMailComposeViewControllerDelegate>>;
 
-NativeDelegates& nativeDelegates() {
-  static auto* const delegates = new NativeDelegates;
+// Guarded, as the shared helper may be made on any thread.
+struct GuardedDelegates {
+  std::mutex mutex;
+  NativeDelegates delegates;
+};
+
+GuardedDelegates& nativeDelegates() {
+  static auto* const delegates = new GuardedDelegates;
   return *delegates;
+}
+
+id<MFMailComposeViewControllerDelegate> nativeDelegateOf(const MailComposeDelegate* delegate) {
+  const std::lock_guard guard(nativeDelegates().mutex);
+  const auto found = nativeDelegates().delegates.find(delegate);
+  return found == nativeDelegates().delegates.end() ? nil : found->second;
 }
 
 class Composer final : public MailComposer {
@@ -44,9 +57,8 @@ class Composer final : public MailComposer {
   void setSubject(std::string subject) override { [composer() setSubject:toNSString(subject)]; }
 
   void setMailComposeDelegate(std::weak_ptr<MailComposeDelegate> delegate) override {
-    const auto found = nativeDelegates().find(delegate.lock().get());
-    if (found != nativeDelegates().end()) {
-      composer().mailComposeDelegate = found->second;
+    if (id<MFMailComposeViewControllerDelegate> native = nativeDelegateOf(delegate.lock().get())) {
+      composer().mailComposeDelegate = native;
       return;
     }
     forwarder_ = [QV_MailComposeForwarder new];
@@ -99,10 +111,11 @@ std::shared_ptr<MailComposer> UIKitMailComposers::makeMailComposer() {
 
 void setNativeDelegate(const MailComposeDelegate& delegate,
                        id<MFMailComposeViewControllerDelegate> native) {
+  const std::lock_guard guard(nativeDelegates().mutex);
   if (native == nil) {
-    nativeDelegates().erase(&delegate);
+    nativeDelegates().delegates.erase(&delegate);
   } else {
-    nativeDelegates()[&delegate] = native;
+    nativeDelegates().delegates[&delegate] = native;
   }
 }
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #import <UIKit/UIKit.h>
-
 #include <optional>
 
 #include "qv_commons/view_utils/search_bar.h"

@@ -1,7 +1,6 @@
 #import "qv_commons/platform/uikit/uikit_system.h"
 
 #import <UIKit/UIKit.h>
-
 #include <cmath>
 #include <cstdio>
 
@@ -40,8 +39,7 @@ Size UIKitScreen::bounds() const {
 
 UserInterfaceStyle UIKitScreen::userInterfaceStyle() const {
   if (QV_IOS_AVAILABLE(12.0)) {
-    return static_cast<UserInterfaceStyle>(
-        UIScreen.mainScreen.traitCollection.userInterfaceStyle);
+    return static_cast<UserInterfaceStyle>(UIScreen.mainScreen.traitCollection.userInterfaceStyle);
   }
   return UserInterfaceStyle::unspecified;
 }

@@ -2,7 +2,6 @@
 #pragma once
 
 #import <UIKit/UIKit.h>
-
 #include <memory>
 
 #include "qv_commons/platform/views.h"

@@ -1,9 +1,9 @@
 #import "qv_commons/platform/uikit/uikit_text_view.h"
 
+#include "qv_commons/platform/layout_loader.h"
 #import "qv_commons/platform/uikit/text.h"
 #import "qv_commons/platform/uikit/uikit_node.h"
 #import "qv_commons/platform/uikit/view_over.h"
-#include "qv_commons/platform/layout_loader.h"
 
 // Whom a text view asks where the delegate is no screen.
 @interface QV_TextViewForwarder : NSObject <UITextViewDelegate> {

@@ -40,9 +40,7 @@ class DatePickerView final : public ViewOver<DatePicker, UIDatePicker> {
   void setMaximumDate(std::optional<double> date) override {
     view().maximumDate = date ? [NSDate dateWithTimeIntervalSince1970:*date] : nil;
   }
-  void setDate(double date) override {
-    view().date = [NSDate dateWithTimeIntervalSince1970:date];
-  }
+  void setDate(double date) override { view().date = [NSDate dateWithTimeIntervalSince1970:date]; }
   double date() const override { return view().date.timeIntervalSince1970; }
 };
 

@@ -36,7 +36,8 @@ class ViewOver : public Interface, public NativeView {
   Native* view() const { return static_cast<Native*>(view_); }
 
  private:
-  // Not a pointer to `Native`: clang takes a weak pointer to a template's parameter for a strong one.
+  // Not a pointer to `Native`: clang takes a weak pointer to a template's parameter for a strong
+  // one.
   __weak UIView* view_;
 };
 

@@ -7,10 +7,7 @@ NS_ASSUME_NONNULL_BEGIN
 @interface UIColor : NSObject
 @property(class, nonatomic, readonly) UIColor* whiteColor;
 @property(class, nonatomic, readonly) UIColor* blackColor;
-+ (UIColor*)colorWithRed:(CGFloat)red
-                   green:(CGFloat)green
-                    blue:(CGFloat)blue
-                   alpha:(CGFloat)alpha;
++ (UIColor*)colorWithRed:(CGFloat)red green:(CGFloat)green blue:(CGFloat)blue alpha:(CGFloat)alpha;
 - (BOOL)getRed:(nullable CGFloat*)red
          green:(nullable CGFloat*)green
           blue:(nullable CGFloat*)blue

@@ -1,11 +1,10 @@
 // What clang calls under ARC: retaining, releasing, zeroing weak references, associated objects;
 // and the message look-up of the non-fragile ABI.
-#include <objc/message.h>
-#include <unwind.h>
-
 #include <mutex>
+#include <objc/message.h>
 #include <unordered_map>
 #include <unordered_set>
+#include <unwind.h>
 #include <utility>
 
 #include "tests/uikit_standin/runtime/runtime.h"
@@ -102,9 +101,9 @@ std::vector<id> takeAssociatedObjects(id object) {
 + (void)load {
   method_setImplementation(class_getInstanceMethod([NSObject class], @selector(release)),
                            reinterpret_cast<IMP>(releaseObject));
-  originalDealloc = method_setImplementation(
-      class_getInstanceMethod([NSObject class], @selector(dealloc)),
-      reinterpret_cast<IMP>(deallocObject));
+  originalDealloc =
+      method_setImplementation(class_getInstanceMethod([NSObject class], @selector(dealloc)),
+                               reinterpret_cast<IMP>(deallocObject));
 }
 @end
 
@@ -128,21 +127,51 @@ _Unwind_Reason_Code __gnustep_objcxx_personality_v0(int version, _Unwind_Action 
   return __gxx_personality_v0(version, actions, exceptionClass, exception, context);
 }
 
-id objc_retain(id object) { return [object retain]; }
-void objc_release(id object) { [object release]; }
-id objc_autorelease(id object) { return [object autorelease]; }
-id objc_retainBlock(id block) { return static_cast<id>(_Block_copy(block)); }
-id objc_retainAutorelease(id object) { return [[object retain] autorelease]; }
-id objc_autoreleaseReturnValue(id object) { return [object autorelease]; }
-id objc_retainAutoreleaseReturnValue(id object) { return [[object retain] autorelease]; }
-id objc_retainAutoreleasedReturnValue(id object) { return [object retain]; }
-id objc_claimAutoreleasedReturnValue(id object) { return [object retain]; }
-id objc_unsafeClaimAutoreleasedReturnValue(id object) { return object; }
-void* objc_autoreleasePoolPush(void) { return [NSAutoreleasePool new]; }
-void objc_autoreleasePoolPop(void* pool) { [static_cast<NSAutoreleasePool*>(pool) release]; }
-id objc_alloc(Class type) { return [type alloc]; }
-id objc_allocWithZone(Class type) { return [type allocWithZone:NULL]; }
-id objc_alloc_init(Class type) { return [[type alloc] init]; }
+id objc_retain(id object) {
+  return [object retain];
+}
+void objc_release(id object) {
+  [object release];
+}
+id objc_autorelease(id object) {
+  return [object autorelease];
+}
+id objc_retainBlock(id block) {
+  return static_cast<id>(_Block_copy(block));
+}
+id objc_retainAutorelease(id object) {
+  return [[object retain] autorelease];
+}
+id objc_autoreleaseReturnValue(id object) {
+  return [object autorelease];
+}
+id objc_retainAutoreleaseReturnValue(id object) {
+  return [[object retain] autorelease];
+}
+id objc_retainAutoreleasedReturnValue(id object) {
+  return [object retain];
+}
+id objc_claimAutoreleasedReturnValue(id object) {
+  return [object retain];
+}
+id objc_unsafeClaimAutoreleasedReturnValue(id object) {
+  return object;
+}
+void* objc_autoreleasePoolPush(void) {
+  return [NSAutoreleasePool new];
+}
+void objc_autoreleasePoolPop(void* pool) {
+  [static_cast<NSAutoreleasePool*>(pool) release];
+}
+id objc_alloc(Class type) {
+  return [type alloc];
+}
+id objc_allocWithZone(Class type) {
+  return [type allocWithZone:NULL];
+}
+id objc_alloc_init(Class type) {
+  return [[type alloc] init];
+}
 
 void objc_storeStrong(id* reference, id object) {
   id previous = *reference;
@@ -164,14 +193,18 @@ id objc_initWeak(id* reference, id object) {
   return objc_storeWeak(reference, object);
 }
 
-void objc_destroyWeak(id* reference) { objc_storeWeak(reference, nil); }
+void objc_destroyWeak(id* reference) {
+  objc_storeWeak(reference, nil);
+}
 
 id objc_loadWeakRetained(id* reference) {
   const std::lock_guard guard(lock());
   return [*reference retain];
 }
 
-id objc_loadWeak(id* reference) { return [objc_loadWeakRetained(reference) autorelease]; }
+id objc_loadWeak(id* reference) {
+  return [objc_loadWeakRetained(reference) autorelease];
+}
 
 void objc_copyWeak(id* target, id* source) {
   const std::lock_guard guard(lock());

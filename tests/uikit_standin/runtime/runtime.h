@@ -4,7 +4,6 @@
 #pragma once
 
 #import <Foundation/Foundation.h>
-
 #include <vector>
 
 extern "C" {

@@ -22,10 +22,11 @@ NS_ASSUME_NONNULL_BEGIN
 NS_SWIFT_UI_ACTOR
 @interface QV_AgeGateHelper : NSObject
 
-/// Lets the user through, asks for the date of birth, or shows the refusal, as the user defaults say.
+/// Lets the user through, asks for the date of birth, or shows the refusal, as the user defaults
+/// say.
 ///
-/// A user let through before: calls `completion` before it returns and shows nothing. A user refused
-/// before: shows the refusal. Otherwise shows the date-of-birth screen and returns at once.
+/// A user let through before: calls `completion` before it returns and shows nothing. A user
+/// refused before: shows the refusal. Otherwise shows the date-of-birth screen and returns at once.
 ///
 /// @param viewController Presents the screens; kept by the date-of-birth screen.
 /// @param minimumAgeRequired In whole years; taken as it is.
@@ -37,8 +38,8 @@ NS_SWIFT_UI_ACTOR
 + (void)startAgeGateProcessWithViewController:(UIViewController*)viewController
                            minimumAgeRequired:(int64_t)minimumAgeRequired
                                    completion:(nullable void (^)(void))completion
-                             contactUsHandler:
-                                 (nullable void (^)(UIViewController* refusedScreen))contactUsHandler
+                             contactUsHandler:(nullable void (^)(UIViewController* refusedScreen))
+                                                  contactUsHandler
                                    colorTheme:(QV_AgeGateColorTheme*)colorTheme
                                   privacyLink:(NSString*)privacyLink
                            termsOfServiceLink:(NSString*)termsOfServiceLink

@@ -15,8 +15,8 @@ NS_ASSUME_NONNULL_BEGIN
 
 /// Whole minutes, truncated toward zero. Rounding up counts a begun minute only if more than one
 /// second of it has passed: 61 gives 1 and 62 gives 2. Negative values never round.
-+ (int64_t)secondsToMinutes:(int64_t)seconds roundUp:(BOOL)roundUp
-    NS_SWIFT_NAME(secondsToMinutes(_:roundUp:));
++ (int64_t)secondsToMinutes:(int64_t)seconds
+                    roundUp:(BOOL)roundUp NS_SWIFT_NAME(secondsToMinutes(_:roundUp:));
 
 /// Whole days, truncated toward zero: 86399 gives 0, -86401 gives -1.
 + (NSInteger)secondsToDaysWithSeconds:(NSInteger)seconds NS_SWIFT_NAME(secondsToDays(seconds:));
@@ -25,7 +25,8 @@ NS_ASSUME_NONNULL_BEGIN
 /// "-1:-5".
 + (NSString*)secondsToHms:(int64_t)seconds NS_SWIFT_NAME(secondsToHms(_:));
 
-/// The same figures as one number: 3725 gives "10205", 59 gives "59", and anything below 1 gives "".
+/// The same figures as one number: 3725 gives "10205", 59 gives "59", and anything below 1 gives
+/// "".
 + (NSString*)secondsToHmsDigits:(int64_t)seconds NS_SWIFT_NAME(secondsToHmsDigits(_:));
 
 /// Reads clock-style text: "1:02:05" gives 3725, " 1:30.75" gives 90. For text that `secondsToHms:`

@@ -13,8 +13,8 @@ NS_SWIFT_UI_ACTOR
 /// Walks from `controller` through navigation and tab bar controllers and presented controllers to
 /// the one on top; an alert on top gives the controller that presented it. Nil where the walk ends
 /// in nothing: for nil, and for a navigation controller that shows nothing.
-+ (nullable UIViewController*)topViewControllerWithController:
-    (nullable UIViewController*)controller NS_SWIFT_NAME(topViewController(controller:));
++ (nullable UIViewController*)topViewControllerWithController:(nullable UIViewController*)controller
+    NS_SWIFT_NAME(topViewController(controller:));
 
 @end
 
