@@ -1,13 +1,13 @@
 #!/bin/sh
-# Compiles sources for the device, to Mach-O objects for arm64-apple-ios11.0, without its SDK: libc++
-# with its availability marks switched on, musl's C headers, gnustep-base's Foundation and, for UIKit
-# and MessageUI, the tests' stand-in headers. Anything that is newer than 11.0 and not behind a
-# version test is an error. Nothing is linked.
+# Compiles sources for the device, to Mach-O objects for arm64-apple-ios11.0, without its SDK:
+# libc++ with its availability marks switched on, musl's C headers, gnustep-base's Foundation and,
+# for UIKit and MessageUI, the tests' stand-in headers. Anything that is newer than 11.0 and not
+# behind a version test is an error. Nothing is linked.
 #
 #     tools/ios_check.sh OUT_DIR OBJC_HEADERS [SOURCE...]
 #
-# OBJC_HEADERS is where the build keeps the mended Objective-C headers (objc_compat). Without sources:
-# the core, the iOS adapter and the example app.
+# OBJC_HEADERS is where the build keeps the mended Objective-C headers (objc_compat). Without
+# sources: the core, the iOS adapter and the example app.
 set -eu
 out=$(realpath -m "$1")
 objc=$(realpath -m "$2")
@@ -17,7 +17,8 @@ libcxx=/usr/lib/llvm-19/include/c++/v1
 
 mkdir -p "$out/config"
 # libc++ for Debian is configured without marks, as it is part of no system; the device's is not.
-sed '/_LIBCPP_HAS_NO_VENDOR_AVAILABILITY_ANNOTATIONS/d' $libcxx/__config_site >"$out/config/__config_site"
+sed '/_LIBCPP_HAS_NO_VENDOR_AVAILABILITY_ANNOTATIONS/d' $libcxx/__config_site \
+  >"$out/config/__config_site"
 if cmp -s $libcxx/__config_site "$out/config/__config_site"; then
   echo "ios_check: libc++'s availability marks can't be switched on" >&2
   exit 2
@@ -25,12 +26,13 @@ fi
 
 if [ $# -eq 0 ]; then
   set -- $(find qv_commons examples/ios_host \( -path qv_commons/platform/memory -o \
-    -path qv_commons/platform/desktop \) -prune -o \( -name '*.cpp' -o -name '*.mm' -o -name '*.m' \) -print)
+    -path qv_commons/platform/desktop \) -prune -o \
+    \( -name '*.cpp' -o -name '*.mm' -o -name '*.m' \) -print)
 fi
 
 # -isystem in this order: libc++ wraps C headers, which it finds after its own.
 cat >"$out/flags" <<FLAGS
--target arm64-apple-ios11.0 -c -O1
+-target arm64-apple-ios11.0 -c
 -nostdinc -nostdinc++ -isystem $out/config -isystem tools/ios_sysroot -isystem $libcxx
 -isystem $(clang-19 -print-resource-dir)/include -isystem $(echo /usr/include/*-linux-musl)
 -isystem $objc -isystem tests/uikit_standin -isystem /usr/include/GNUstep

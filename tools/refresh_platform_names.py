@@ -5,8 +5,8 @@ platform's own headers.
 
     tools/refresh_platform_names.py OBJC_HEADERS [TYPES_PACKAGE]
 
-OBJC_HEADERS is the build's folder of mended Objective-C headers (objc_compat). Without TYPES_PACKAGE
-npm fetches the package into a temporary folder. A name that the package lacks, or declares
+OBJC_HEADERS is the build's folder of mended Objective-C headers (objc_compat). npm fetches the
+package into a temporary folder, unless TYPES_PACKAGE is where it is already. A name that the package lacks, or declares
 otherwise, is reported and left out. For protocols it gives no versions.
 """
 
@@ -22,8 +22,9 @@ from platform_names import Use
 PACKAGE = '@nativescript/types-ios'
 LIST = os.path.join(platform_names.ROOT, 'tests/uikit/platform_names.txt')
 MODULES = ('CoreGraphics', 'Foundation', 'MessageUI', 'ObjectiveC', 'QuartzCore', 'UIKit')
-HEADING = '''# The platform's names that the iOS adapter and its example use, from {package} {version}
-# (Apache-2.0), which is generated from the platform's own headers. By tools/refresh_platform_names.py.
+HEADING = '''# The platform's names that the iOS adapter and its example use, as in {package}
+# {version} (Apache-2.0), which is generated from the platform's own headers.
+# Written by tools/refresh_platform_names.py.
 # kind	owner	name	arguments, value or superclass	first system version
 '''
 
@@ -81,7 +82,6 @@ class Declarations:
         found, waiting = [], [owner]
         while waiting:
             name = waiting.pop(0)
-            # A protocol that bears a class's name has "Protocol" after it.
             if name in self.owners and name not in found:
                 found.append(name)
                 waiting += self.owners[name]['above']
@@ -124,8 +124,10 @@ class Declarations:
         return self._first(use, use.kind == 'class-property', [(use.name, None), (use.name, 0)])
 
     def _first(self, use, static, names):
-        owners = [use.owner + 'Protocol', use.owner] if use.owner == 'NSObject' else [use.owner]
-        found = (self.member(owner, name, static, count) for owner in owners for name, count in names)
+        # The package tells the protocol from the class of the same name.
+        owners = ['NSObjectProtocol', 'NSObject'] if use.owner == 'NSObject' else [use.owner]
+        found = (self.member(owner, name, static, count)
+                 for owner in owners for name, count in names)
         return next((since for since in found if since is not None), None)
 
     def _value(self, use):

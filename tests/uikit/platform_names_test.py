@@ -4,6 +4,7 @@ arguments, the same number and the same first system version as platform_names.t
 platform's own declarations. QV_OBJC_HEADERS names the build's mended Objective-C headers."""
 
 import os
+import re
 import shutil
 import sys
 import tempfile
@@ -87,9 +88,9 @@ class Mistakes(unittest.TestCase):
             shutil.copytree(platform_names.STANDIN, standin)
             with open(os.path.join(standin, header), 'r+', encoding='utf-8') as file:
                 text = file.read()
-                self.assertIn(before, text)
+                self.assertRegex(text, before)
                 file.seek(0)
-                file.write(text.replace(before, after, 1))
+                file.write(re.sub(before, after, text, count=1))
                 file.truncate()
             path = os.path.join(folder, 'planted.mm')
             with open(path, 'w', encoding='utf-8') as file:
@@ -105,7 +106,7 @@ class Mistakes(unittest.TestCase):
 
     def test_a_wrong_selector(self):
         self.assertEqual(self.found(
-            'UIKit/UIViewController.h', 'presentViewController:(', 'presentController:(',
+            'UIKit/UIViewController.h', r'presentViewController:\(', 'presentController:(',
             'void go(UIViewController* c) { [c presentController:c animated:YES completion:nil]; }'
         ), ['the platform has no method UIViewController presentController:animated:completion:'])
 
@@ -133,7 +134,7 @@ class Mistakes(unittest.TestCase):
         for mark, marked in (('API_AVAILABLE(ios(12.0))', '12.0'), ('', '-')):
             self.assertEqual(self.found(
                 'UIKit/UIViewController.h',
-                'modalInPresentation\n    API_AVAILABLE(ios(13.0))', f'modalInPresentation {mark}',
+                r'modalInPresentation\s+API_AVAILABLE\(ios\(13.0\)\)', f'modalInPresentation {mark}',
                 source), [f'modalInPresentation is marked {marked} and there from 13.0 on'])
 
     def test_a_name_behind_a_template(self):

@@ -130,5 +130,6 @@ def _included(owner, constraint_id, size_class):
 def _varied(constraint, size_class):
     for variation in _matching(constraint.element, size_class):
         constant = float(variation.get('constant', constraint.constant))
-        constraint = replace(constraint, constant=constant, priority=int(variation.get('priority', constraint.priority)))
+        priority = int(variation.get('priority', constraint.priority))
+        constraint = replace(constraint, constant=constant, priority=priority)
     return constraint

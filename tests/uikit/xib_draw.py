@@ -128,7 +128,8 @@ class Picture:
             return
         tile = Image.new('L', (240 * SCALE, 32 * SCALE), 0)
         at = {'r': tile.width, 'm': tile.width / 2}[anchor], tile.height / 2
-        ImageDraw.Draw(tile).text(at, text, 255, font('InterDisplay-Regular', 22 * SCALE), anchor + 'm')
+        face = font('InterDisplay-Regular', 22 * SCALE)
+        ImageDraw.Draw(tile).text(at, text, 255, face, anchor + 'm')
         height = max(2, round(tile.height * math.cos(angle)))
         tile = tile.resize((tile.width, height), Image.Resampling.LANCZOS)
         shown = 1.0 if step == 0 else 0.42 * math.cos(angle)
@@ -155,7 +156,8 @@ def sheet(pictures, gap=48):
     left = gap
     for picture in pictures:
         mask = Image.new('L', (picture.width * 2, picture.height * 2), 0)
-        ImageDraw.Draw(mask).rounded_rectangle((0, 0, mask.width - 1, mask.height - 1), 88, fill=255)
+        whole = 0, 0, mask.width - 1, mask.height - 1
+        ImageDraw.Draw(mask).rounded_rectangle(whole, 88, fill=255)
         ground.paste(picture, (left, (height - picture.height) // 2),
                      mask.resize(picture.size, Image.Resampling.LANCZOS))
         left += picture.width + gap
