@@ -7,10 +7,14 @@
 
 namespace qv_commons::uikit {
 
+inline id copyOf(id block) {
+  return [block copy];
+}
+
 template <class... Arguments>
 std::function<void(Arguments...)> toClosure(void (^block)(Arguments...)) {
   if (block == nil) return nullptr;
-  void (^copy)(Arguments...) = [block copy];
+  void (^copy)(Arguments...) = copyOf(block);
   return [copy](Arguments... arguments) { copy(arguments...); };
 }
 
