@@ -3,12 +3,12 @@
 namespace qv_commons {
 namespace {
 
-constexpr Color grey(double level) {
+Color grey(double level) {
   return {level, level, level, 1};
 }
 
-constexpr Color kWhite = grey(1);
-constexpr Color kBlack = grey(0);
+constexpr double kWhite = 1;
+constexpr double kBlack = 0;
 
 }  // namespace
 
@@ -27,9 +27,11 @@ std::shared_ptr<QV_AgeGateColorTheme> QV_AgeGateColorTheme::defaultTheme() {
 
 std::shared_ptr<QV_AgeGateColorTheme> defaultThemeFor(bool systemIsAtLeast13, bool styleIsDark) {
   if (systemIsAtLeast13 && styleIsDark) {
-    return std::make_shared<QV_AgeGateColorTheme>(grey(0.118), kWhite, kBlack, kWhite, grey(0.541));
+    return std::make_shared<QV_AgeGateColorTheme>(grey(0.118), grey(kWhite), grey(kBlack),
+                                                  grey(kWhite), grey(0.541));
   }
-  return std::make_shared<QV_AgeGateColorTheme>(kWhite, kBlack, kWhite, grey(0.29), grey(0.514));
+  return std::make_shared<QV_AgeGateColorTheme>(grey(kWhite), grey(kBlack), grey(kWhite),
+                                                grey(0.29), grey(0.514));
 }
 
 std::shared_ptr<QV_AgeGateColorTheme> defaultThemeOf(const Platform& platform) {

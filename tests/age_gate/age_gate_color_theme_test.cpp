@@ -11,8 +11,8 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr Color kWhite = {1, 1, 1, 1};
-constexpr Color kBlack = {0, 0, 0, 1};
+const Color kWhite = {1, 1, 1, 1};
+const Color kBlack = {0, 0, 0, 1};
 
 void expectLight(const QV_AgeGateColorTheme& theme) {
   EXPECT_EQ(theme.buttonBGColor, kBlack);

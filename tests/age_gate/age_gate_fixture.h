@@ -19,11 +19,11 @@ inline constexpr double kNow = 1700000000;               // 2023-11-14 22:13:20 
 inline constexpr double kEighteenYearsAgo = 1132006400;  // 2005-11-14 22:13:20 UTC
 inline constexpr double kDay = 86400;
 
-inline constexpr Color kBackground = {1, 0, 0};
-inline constexpr Color kButtonBackground = {0, 1, 0};
-inline constexpr Color kButtonText = {0, 0, 1};
-inline constexpr Color kText = {0.25, 0.5, 0.75};
-inline constexpr Color kPoliciesText = {0.5, 0, 0.5};
+inline const Color kBackground = {1, 0, 0};
+inline const Color kButtonBackground = {0, 1, 0};
+inline const Color kButtonText = {0, 0, 1};
+inline const Color kText = {0.25, 0.5, 0.75};
+inline const Color kPoliciesText = {0.5, 0, 0.5};
 
 class AgeGateFixture : public testing::Test {
  protected:

@@ -13,9 +13,9 @@ using memory::Link;
 using memory::MemoryTextView;
 using testing::ElementsAre;
 
-constexpr Color kText = {0.25, 0.5, 0.75};
-constexpr Color kPoliciesText = {0.5, 0, 0.5};
-constexpr Color kLayoutText = {0, 1, 0};
+const Color kText = {0.25, 0.5, 0.75};
+const Color kPoliciesText = {0.5, 0, 0.5};
+const Color kLayoutText = {0, 1, 0};
 
 class PolicyLinks : public testing::Test {
  protected:

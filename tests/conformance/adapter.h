@@ -61,6 +61,11 @@ class Adapter {
   virtual std::shared_ptr<ViewController> makeRootScreen() = 0;
   virtual bool isOnScreen(ViewController& controller) = 0;
 
+  // Tells whether `screen` is still there, without keeping it.
+  virtual std::function<bool()> watch(const std::shared_ptr<ViewController>& screen) {
+    return [observed = std::weak_ptr(screen)] { return !observed.expired(); };
+  }
+
   // Waits until nothing moves any more.
   virtual void settle() = 0;
 

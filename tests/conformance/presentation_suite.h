@@ -50,12 +50,12 @@ TEST_P(PresentationConformance, ShowsAScreenAndThenRunsTheCompletion) {
 
 TEST_P(PresentationConformance, KeepsAliveWhatIsShownAndLetsGoOfWhatIsNot) {
   Screen screen = presented(*root_);
-  const std::weak_ptr<ViewController> observed = screen;
+  const std::function<bool()> isThere = adapter().watch(screen);
   screen.reset();
-  EXPECT_FALSE(observed.expired());
+  EXPECT_TRUE(isThere());
   root_->dismissViewController(true, nullptr);
   adapter().settle();
-  EXPECT_TRUE(observed.expired());
+  EXPECT_FALSE(isThere());
 }
 
 TEST_P(PresentationConformance, TakesAwayWhatItPresentsAndThenRunsTheCompletion) {

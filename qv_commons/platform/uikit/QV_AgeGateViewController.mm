@@ -1,0 +1,68 @@
+#import "qv_commons/platform/uikit/QV_AgeGateViewController.h"
+
+#include "qv_commons/age_gate/age_gate_view_controller.h"
+#include "qv_commons/platform/uikit/availability.h"
+
+@implementation QV_AgeGateViewController
+
++ (std::unique_ptr<qv_commons::LayoutScreen>)screenFor:(qv_commons::NativeViewController&)native {
+  return std::make_unique<qv_commons::QV_AgeGateViewController>(native,
+                                                                qv_commons::currentPlatform());
+}
+
+- (UIView*)bg {
+  return [self viewForOutlet:"bg"];
+}
+- (void)setBg:(UIView*)bg {
+  [self setView:bg forOutlet:"bg"];
+}
+
+- (UIButton*)confirmBtn {
+  return static_cast<UIButton*>([self viewForOutlet:"confirmBtn"]);
+}
+- (void)setConfirmBtn:(UIButton*)confirmBtn {
+  [self setView:confirmBtn forOutlet:"confirmBtn"];
+}
+
+- (UIDatePicker*)datePicker {
+  return static_cast<UIDatePicker*>([self viewForOutlet:"datePicker"]);
+}
+- (void)setDatePicker:(UIDatePicker*)datePicker {
+  [self setView:datePicker forOutlet:"datePicker"];
+}
+
+- (UITextView*)tos {
+  return static_cast<UITextView*>([self viewForOutlet:"tos"]);
+}
+- (void)setTos:(UITextView*)tos {
+  [self setView:tos forOutlet:"tos"];
+}
+
+- (UILabel*)header {
+  return static_cast<UILabel*>([self viewForOutlet:"header"]);
+}
+- (void)setHeader:(UILabel*)header {
+  [self setView:header forOutlet:"header"];
+}
+
+- (UILabel*)subtitle {
+  return static_cast<UILabel*>([self viewForOutlet:"subtitle"]);
+}
+- (void)setSubtitle:(UILabel*)subtitle {
+  [self setView:subtitle forOutlet:"subtitle"];
+}
+
+- (void)viewDidLoad {
+  // Later systems would show a field that opens a calendar, far from any year of birth.
+  if (QV_IOS_AVAILABLE(13.4)) self.datePicker.preferredDatePickerStyle = UIDatePickerStyleWheels;
+  [super viewDidLoad];
+}
+
+- (void)onDateChanged:(id)sender {
+  [self runAction:_cmd];
+}
+- (void)onConfirmPressed:(id)sender {
+  [self runAction:_cmd];
+}
+
+@end

@@ -1,0 +1,68 @@
+// The device, the system and the app's settings by UIKit and Foundation.
+#pragma once
+
+#include "qv_commons/platform/application.h"
+#include "qv_commons/platform/calendar.h"
+#include "qv_commons/platform/clock.h"
+#include "qv_commons/platform/console.h"
+#include "qv_commons/platform/device.h"
+#include "qv_commons/platform/screen.h"
+#include "qv_commons/platform/system_version.h"
+#include "qv_commons/platform/user_defaults.h"
+
+namespace qv_commons::uikit {
+
+class UIKitDevice final : public Device {
+ public:
+  std::string systemVersion() const override;
+  std::string localizedModel() const override;
+};
+
+class UIKitLanguages final : public Languages {
+ public:
+  std::vector<std::string> preferredLanguages() const override;
+};
+
+class UIKitScreen final : public Screen {
+ public:
+  Size bounds() const override;
+  UserInterfaceStyle userInterfaceStyle() const override;
+};
+
+class UIKitSystemVersion final : public SystemVersion {
+ public:
+  bool isOperatingSystemAtLeastVersion(const OperatingSystemVersion& version) const override;
+};
+
+// NSDate.
+class UIKitClock final : public Clock {
+ public:
+  double timeIntervalSince1970() const override;
+};
+
+// The standard output, as the platform's own print statement.
+class UIKitConsole final : public Console {
+ public:
+  void print(std::string_view line) override;
+};
+
+// The current NSCalendar.
+class UIKitCalendar final : public Calendar {
+ public:
+  std::optional<std::int64_t> yearsBetween(double from, double to) const override;
+  std::optional<double> dateByAddingYears(double date, int years) const override;
+};
+
+// The standard NSUserDefaults.
+class UIKitUserDefaults final : public UserDefaults {
+ public:
+  bool boolForKey(std::string_view key) const override;
+  void setBool(bool value, std::string_view key) override;
+};
+
+class UIKitApplication final : public Application {
+ public:
+  void openURL(const URL& url) override;
+};
+
+}  // namespace qv_commons::uikit

@@ -1,0 +1,93 @@
+#import "qv_commons/platform/uikit/uikit_text_view.h"
+
+#include "qv_commons/platform/layout_loader.h"
+#import "qv_commons/platform/uikit/text.h"
+#import "qv_commons/platform/uikit/uikit_node.h"
+#import "qv_commons/platform/uikit/view_over.h"
+
+// Whom a text view asks where the delegate is no screen.
+@interface QV_TextViewForwarder : NSObject <UITextViewDelegate> {
+ @public
+  qv_commons::TextViewDelegate* delegate;
+}
+@end
+
+@implementation QV_TextViewForwarder
+- (BOOL)textView:(UITextView*)textView
+    shouldInteractWithURL:(NSURL*)URL
+                  inRange:(NSRange)range
+              interaction:(UITextItemInteraction)interaction {
+  return qv_commons::uikit::shouldInteract(*delegate, textView, URL, range);
+}
+@end
+
+namespace qv_commons::uikit {
+namespace {
+
+// The screen of UIKit's where the delegate is one that answers for itself; otherwise nil.
+id<UITextViewDelegate> screenOf(TextViewDelegate* delegate) {
+  UIViewController* controller = toUIViewController(dynamic_cast<LayoutScreen*>(delegate));
+  if (![controller conformsToProtocol:@protocol(UITextViewDelegate)]) return nil;
+  return static_cast<id<UITextViewDelegate>>(controller);
+}
+
+class MutableText final : public AttributedString {
+ public:
+  explicit MutableText(NSAttributedString* text)
+      : text_([[NSMutableAttributedString alloc] initWithAttributedString:text]) {}
+
+  NSAttributedString* nsAttributedString() const { return text_; }
+
+  std::size_t length() const override { return text_.length; }
+  void addLink(std::string_view value, TextRange range) override {
+    [text_ addAttribute:NSLinkAttributeName
+                  value:toNSString(value)
+                  range:NSMakeRange(range.location, range.length)];
+  }
+
+ private:
+  NSMutableAttributedString* text_;
+};
+
+class TextViewView final : public ViewOver<TextView, UITextView> {
+ public:
+  using ViewOver::ViewOver;
+
+  std::unique_ptr<AttributedString> attributedText() const override {
+    NSAttributedString* text = view().attributedText;
+    return text == nil ? nullptr : std::make_unique<MutableText>(text);
+  }
+  void setAttributedText(const AttributedString& text) override {
+    view().attributedText = static_cast<const MutableText&>(text).nsAttributedString();
+  }
+  void setLinkTextAttributes(const Color& foreground) override {
+    view().linkTextAttributes = @{NSForegroundColorAttributeName : toUIColor(foreground)};
+  }
+  void setTextColor(const Color& color) override { view().textColor = toUIColor(color); }
+  void setDelegate(TextViewDelegate* delegate) override {
+    if (id<UITextViewDelegate> screen = screenOf(delegate)) {
+      view().delegate = screen;
+      return;
+    }
+    forwarder_ = [QV_TextViewForwarder new];
+    forwarder_->delegate = delegate;
+    view().delegate = delegate == nullptr ? nil : forwarder_;
+  }
+
+ private:
+  QV_TextViewForwarder* forwarder_;  // text views don't keep their delegates
+};
+
+}  // namespace
+
+std::shared_ptr<TextView> makeTextView(UITextView* textView) {
+  return std::make_shared<TextViewView>(textView);
+}
+
+bool shouldInteract(TextViewDelegate& delegate, UITextView* textView, NSURL* url, NSRange range) {
+  return delegate.shouldInteractWithURL(static_cast<TextView&>(*toView(textView)),
+                                        toString(url.absoluteString),
+                                        {range.location, range.length});
+}
+
+}  // namespace qv_commons::uikit

@@ -1,0 +1,99 @@
+// Bundles whose app and library are folders of a test's own, as where the library is a framework.
+#pragma once
+
+#include <fstream>
+#include <map>
+#include <optional>
+#include <string>
+
+#include "qv_commons/platform/platform.h"
+#import "qv_commons/platform/uikit/text.h"
+#import "qv_commons/platform/uikit/uikit_bundle.h"
+
+#import "tests/uikit/temporary_folder.h"
+
+class FolderBundles final : public qv_commons::Bundles {
+ public:
+  FolderBundles() {
+    NSString* resources =
+        [NSBundle.mainBundle.bundlePath stringByAppendingPathComponent:@"QV_Commons_iOS.bundle"];
+    [NSFileManager.defaultManager
+        copyItemAtPath:resources
+                toPath:[library_.path() stringByAppendingPathComponent:@"QV_Commons_iOS.bundle"]
+                 error:nullptr];
+  }
+
+  // Opened when it is first asked for: Foundation reads a bundle once.
+  const qv_commons::Bundle& mainBundle() const override {
+    if (!mainBundle_) mainBundle_.emplace([NSBundle bundleWithPath:main_.path()]);
+    return *mainBundle_;
+  }
+  const qv_commons::Bundle& libraryBundle() const override {
+    if (!libraryBundle_) libraryBundle_.emplace([NSBundle bundleWithPath:library_.path()]);
+    return *libraryBundle_;
+  }
+  std::shared_ptr<qv_commons::Bundle> bundleWithURL(
+      const qv_commons::FileLocation& location) const override {
+    return qv_commons::uikit::UIKitBundles().bundleWithURL(location);
+  }
+
+  // The adapter's platform with these bundles in place of its own.
+  qv_commons::Platform over(const qv_commons::Platform& adapter) {
+    return {.bundles = *this,
+            .files = adapter.files,
+            .console = adapter.console,
+            .device = adapter.device,
+            .languages = adapter.languages,
+            .screen = adapter.screen,
+            .systemVersion = adapter.systemVersion,
+            .clock = adapter.clock,
+            .calendar = adapter.calendar,
+            .userDefaults = adapter.userDefaults,
+            .application = adapter.application,
+            .mailComposers = adapter.mailComposers,
+            .alerts = adapter.alerts,
+            .layoutLoader = adapter.layoutLoader};
+  }
+
+  void writeInfo(const std::map<std::string, qv_commons::InfoDictionaryValue>& info,
+                 const std::optional<std::string>& identifier) const {
+    using qv_commons::uikit::toNSString;
+    NSMutableDictionary* entries = [NSMutableDictionary dictionary];
+    for (const auto& [key, value] : info) entries[toNSString(key)] = toObject(value);
+    if (identifier) entries[@"CFBundleIdentifier"] = toNSString(*identifier);
+    [entries writeToFile:[main_.path() stringByAppendingPathComponent:@"Info.plist"] atomically:NO];
+  }
+
+  qv_commons::FileLocation addToMainBundle(const std::string& name,
+                                           const std::string& bytes) const {
+    NSString* path =
+        [main_.path() stringByAppendingPathComponent:qv_commons::uikit::toNSString(name)];
+    std::ofstream(path.UTF8String, std::ios::binary) << bytes;
+    return location(name);
+  }
+
+  // Of a file of the main bundle, which need not exist; of the bundle itself for "".
+  qv_commons::FileLocation location(const std::string& name) const {
+    NSString* path =
+        [main_.path() stringByAppendingPathComponent:qv_commons::uikit::toNSString(name)];
+    return qv_commons::uikit::toString([NSURL fileURLWithPath:path].absoluteString);
+  }
+
+ private:
+  static id toObject(const qv_commons::InfoDictionaryValue& value) {
+    struct Visitor {
+      id operator()(std::monostate) const { return nil; }
+      id operator()(const std::string& text) const { return qv_commons::uikit::toNSString(text); }
+      id operator()(std::int64_t number) const { return @(number); }
+      id operator()(double number) const { return @(number); }
+      id operator()(bool flag) const { return flag ? @YES : @NO; }
+      id operator()(qv_commons::OtherObject) const { return @[]; }
+    };
+    return std::visit(Visitor(), value);
+  }
+
+  TemporaryFolder main_{@"Main.app"};
+  TemporaryFolder library_{@"QV_Commons_iOS.framework"};
+  mutable std::optional<qv_commons::uikit::UIKitBundle> mainBundle_;
+  mutable std::optional<qv_commons::uikit::UIKitBundle> libraryBundle_;
+};

@@ -1,0 +1,5 @@
+#include <filesystem>
+
+bool isThere(const char* file) {
+  return std::filesystem::exists(file);
+}

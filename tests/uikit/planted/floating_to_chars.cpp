@@ -1,0 +1,5 @@
+#include <charconv>
+
+char* write(char* first, char* last, double number) {
+  return std::to_chars(first, last, number).ptr;
+}

@@ -1,0 +1,7 @@
+#import <UIKit/UIKit.h>
+
+void keepUp(UIViewController* screen);
+
+void keepUp(UIViewController* screen) {
+  screen.modalInPresentation = YES;
+}
