@@ -74,6 +74,12 @@ def main():
         result = clang(f'#import <QV_Commons_iOS/{name}>\n')
         check(result.returncode == 0, f'{name} does not compile alone:\n{result.stderr}')
 
+    with tempfile.TemporaryDirectory() as cache:
+        result = clang('@import QV_Commons_iOS;\nvoid f(void) { (void)[QV_Links privacyPolicy]; }\n',
+                       '-fmodules', '-fmodules-cache-path=' + cache,
+                       '-fmodule-map-file=' + os.path.join(HEADERS, 'module.modulemap'))
+        check(result.returncode == 0, f'the module does not compile:\n{result.stderr}')
+
     for expression in ('[[QV_AgeGateColorTheme alloc] init]', '[QV_AgeGateColorTheme new]'):
         result = clang(umbrella + f'void f(void) {{ (void){expression}; }}\n')
         check(result.returncode != 0 and 'is unavailable' in result.stderr,

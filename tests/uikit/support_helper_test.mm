@@ -1,4 +1,6 @@
 // The support e-mail by its selectors, from the host's call to its delegate.
+#include <thread>
+
 #import "tests/uikit/support_fixture.h"
 
 using testing::ElementsAre;
@@ -143,6 +145,20 @@ TEST_F(UIKitSupport, HasOneSharedInstanceAndASlotForEachOther) {
   EXPECT_EQ(composer().mailComposeDelegate, QV_SupportHelper.shared);
   finish(composer());
   EXPECT_EQ(delegate.completions, 1);
+}
+
+TEST_F(UIKitSupport, MakesTheSharedInstanceOnceThoughSeveralThreadsAskFirst) {
+  std::vector<QV_SupportHelper*> seen(8);
+  std::vector<std::thread> threads;
+  for (auto& mine : seen) {
+    threads.emplace_back([&mine] {
+      @autoreleasepool {
+        mine = QV_SupportHelper.shared;
+      }
+    });
+  }
+  for (std::thread& each : threads) each.join();
+  EXPECT_THAT(seen, testing::Each(QV_SupportHelper.shared));
 }
 
 TEST_F(UIKitSupport, SkipsADelegateReleasedBeforeTheDismissal) {

@@ -16,8 +16,10 @@ NS_ASSUME_NONNULL_BEGIN
 @property(nonatomic, readonly, nullable) NSBundle* nibBundle;
 @property(nonatomic, readonly, nullable) UIViewController* presentedViewController;
 @property(nonatomic, readonly, nullable) UIViewController* presentingViewController;
-@property(nonatomic, getter=isModalInPresentation) BOOL modalInPresentation API_AVAILABLE(ios(13.0))
-    ;
+// clang-format off
+@property(nonatomic, getter=isModalInPresentation) BOOL modalInPresentation
+    API_AVAILABLE(ios(13.0));
+// clang-format on
 @property(nonatomic) UIUserInterfaceStyle overrideUserInterfaceStyle API_AVAILABLE(ios(13.0));
 - (void)viewDidLoad;
 - (void)loadViewIfNeeded;
