@@ -24,7 +24,7 @@ void PresentationNode::presentViewController(std::shared_ptr<ViewController> con
 void PresentationNode::dismissViewController(bool animated, Completion completion) {
   Controllers taken;
   if (!presented_.empty()) {
-    taken = std::exchange(presented_, {});
+    takeAllAbove(taken);
   } else if (presenter_ != nullptr) {
     taken = presenter_->takeAway(*this);
   } else {
@@ -32,7 +32,7 @@ void PresentationNode::dismissViewController(bool animated, Completion completio
   }
   for (auto top = taken.rbegin(); top != taken.rend(); ++top) {
     nodeOf(**top).presenter_ = nullptr;
-    nodeOf(**top).hideWithAllAbove(animated);
+    nodeOf(**top).hide(animated);
   }
   afterTransition([taken = std::move(taken), completion = std::move(completion)] {
     if (completion) completion();
@@ -65,11 +65,12 @@ PresentationNode::Controllers PresentationNode::takeAway(const PresentationNode&
   return taken;
 }
 
-void PresentationNode::hideWithAllAbove(bool animated) {
-  for (auto top = presented_.rbegin(); top != presented_.rend(); ++top) {
-    nodeOf(**top).hideWithAllAbove(animated);
+void PresentationNode::takeAllAbove(Controllers& taken) {
+  for (std::shared_ptr<ViewController>& controller : std::exchange(presented_, {})) {
+    PresentationNode& node = nodeOf(*controller);
+    taken.push_back(std::move(controller));
+    node.takeAllAbove(taken);
   }
-  hide(animated);
 }
 
 }  // namespace qv_commons

@@ -57,7 +57,7 @@ class PresentationNode : public NativeViewController,
 
   static PresentationNode& nodeOf(const ViewController& controller);
   Controllers takeAway(const PresentationNode& presented);
-  void hideWithAllAbove(bool animated);
+  void takeAllAbove(Controllers& taken);  // from the bottom up
 
   PresentationNode* presenter_ = nullptr;
   Controllers presented_;  // the last one on top

@@ -92,10 +92,13 @@ void DesktopAlert::addButton(const std::string& title, AlertActionStyle style, C
 void DesktopAlert::place(QWidget& window, const QWidget& presenterWindow) {
   constexpr int kWidth = 290;
   const QRect area = presenterWindow.geometry();
+  for (QWidget* child : window.findChildren<QWidget*>()) child->ensurePolished();
+  layout_.invalidate();
   const int width = std::min(qRound(kWidth * textScale()), area.width() - 2 * kSideMargin);
   window.setFixedWidth(width);
-  window.resize(width, std::max(window.sizeHint().height(), layout_.heightForWidth(width)));
-  window.move(area.center() - window.rect().center());
+  QRect geometry(0, 0, width, layout_.heightForWidth(width));
+  geometry.moveCenter(area.center());
+  window.setGeometry(geometry);
   if (!buttons_.empty()) buttons_.front()->setFocus();
 }
 

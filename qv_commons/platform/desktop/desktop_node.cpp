@@ -31,7 +31,10 @@ bool isEscape(const QEvent& event) {
 }  // namespace
 
 bool DesktopNode::Watcher::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::ApplicationPaletteChange) node_.redress();
+  if (event->type() == QEvent::ApplicationPaletteChange ||
+      event->type() == QEvent::ApplicationFontChange) {
+    node_.redress();
+  }
   const bool leaves = event->type() == QEvent::Close || isEscape(*event);
   if (!leaves || node_.presenter() == nullptr) return QObject::eventFilter(watched, event);
   event->ignore();

@@ -13,6 +13,8 @@ namespace qv_commons::desktop {
 
 class DesktopNode : public PresentationNode {
  public:
+  QWidget* window() const { return window_; }  // null once it has been destroyed
+
   void setModalInPresentation(bool modal) override { modalInPresentation_ = modal; }
   void setOverrideUserInterfaceStyle(UserInterfaceStyle style) override;
   ViewControllerKind kind() const override { return ViewControllerKind::plain; }
@@ -24,7 +26,6 @@ class DesktopNode : public PresentationNode {
   // Takes `window` as this node's; to be called once, by the constructor.
   void attachWindow(QWidget& window);
 
-  QWidget* window() const { return window_; }  // null once it has been destroyed
   DesktopContext& context() const { return *context_; }
   bool isModalInPresentation() const { return modalInPresentation_; }
 

@@ -29,7 +29,7 @@ namespace qv_commons::desktop {
 struct DesktopSettings {
   // The host app's bundle: a folder with an Info.plist, XML or binary. Where it has a folder
   // StoreKit, the receipt is expected there as StoreKit/receipt. Empty: a bundle without values.
-  std::string bundleDirectory;
+  std::string bundleDirectory = {};
 
   // Where the library's resource bundle is, for a host that keeps it somewhere else than next to
   // its own program or library. Empty: there, as share/qv_commons/QV_Commons_iOS.bundle of the same
@@ -39,18 +39,18 @@ struct DesktopSettings {
   // Where what lasts is kept, the drafts in its folder "drafts", the user defaults in a file named
   // after the host's bundle identifier. Empty: the folder that the system
   // has for this app's data, for example ~/.local/share/notes.
-  std::string dataDirectory;
+  std::string dataDirectory = {};
 
   // The mail program, called as `program arguments -t -i` with the message on its standard input.
   // Empty: "sendmail" in PATH, /usr/sbin or /usr/lib.
-  std::string sendmailProgram;
-  std::vector<std::string> sendmailArguments;
+  std::string sendmailProgram = {};
+  std::vector<std::string> sendmailArguments = {};
 
   // How long the mail program may take before it is ended and counts as failed.
   std::chrono::milliseconds sendTimeout = std::chrono::seconds(60);
 
   // The sender's address. Empty: the user's login name at the host's name.
-  std::string senderAddress;
+  std::string senderAddress = {};
 
   // The version that the library takes the system for; its thresholds are those of iOS.
   OperatingSystemVersion systemVersion = {17, 0, 0};
@@ -63,7 +63,7 @@ struct DesktopSettings {
 
   // Told of what a host should know of but no operation can answer, for example an Info.plist that
   // can't be read. Empty: nobody is.
-  std::function<void(std::string)> onError;
+  std::function<void(std::string)> onError = {};
 };
 
 class DesktopPlatform {

@@ -1,8 +1,8 @@
 #include "qv_commons/platform/desktop/desktop_style.h"
 
 #include <QFont>
+#include <QFontInfo>
 #include <QGuiApplication>
-#include <QScreen>
 #include <algorithm>
 
 namespace qv_commons::desktop {
@@ -66,8 +66,8 @@ Theme themeFor(UserInterfaceStyle style) {
 }
 
 double textScale() {
-  const QScreen* screen = QGuiApplication::primaryScreen();
-  return screen == nullptr ? 1.0 : std::max(1.0, screen->logicalDotsPerInchY() / 96.0);
+  constexpr double kUsualPixels = 15;
+  return std::max(1.0, QFontInfo(QGuiApplication::font()).pixelSize() / kUsualPixels);
 }
 
 QString styleSheet(const Theme& theme, double scale) {

@@ -23,7 +23,8 @@ struct Theme {
 // as what it stands on.
 Theme themeFor(UserInterfaceStyle style);
 
-// By how much the user's settings enlarge texts: 1 at 96 dots per inch, 2 at 192; never below 1.
+// By how much the user enlarges texts: the size of the application's font against the usual 15
+// pixels, which are 11 points at 96 dots per inch. 2 for a font of 30 pixels; never below 1.
 double textScale();
 
 // Distances in pixels.

@@ -19,14 +19,14 @@
 namespace qv_commons::desktop {
 
 struct MailMessage {
-  std::string sender;      // an address
-  std::string recipients;  // addresses separated by commas, as a person types them
-  std::string subject;
-  std::string body;
+  std::string sender = {};      // an address
+  std::string recipients = {};  // addresses separated by commas, as a person types them
+  std::string subject = {};
+  std::string body = {};
   bool isHTML = false;
-  std::vector<MailAttachment> attachments;
-  std::int64_t date = 0;  // seconds since 1970-01-01 00:00:00 UTC
-  std::string messageId;  // without angle brackets
+  std::vector<MailAttachment> attachments = {};
+  std::int64_t date = 0;       // seconds since 1970-01-01 00:00:00 UTC
+  std::string messageId = {};  // without angle brackets
 };
 
 // A message to send needs a recipient; one to keep may be unfinished.

@@ -1,0 +1,97 @@
+// What a conformance suite needs of an adapter, beside its platform.
+//
+// Each suite is written once, as tests with a parameter that makes the adapter. A program includes
+// the suites that concern its adapter and instantiates them:
+//
+//     QV_RUN_SUITE(BundleConformance, Memory, makeMemoryAdapter);
+#pragma once
+
+#include <functional>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <map>
+#include <memory>
+#include <optional>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "qv_commons/platform/platform.h"
+
+namespace qv_commons::conformance {
+
+struct MainBundle {
+  std::map<std::string, InfoDictionaryValue> info = {};
+  std::optional<std::string> identifier = {};
+  bool namesReceiptLocation = false;
+};
+
+// What the user sees in a mail composer.
+struct ShownMessage {
+  std::string recipients;
+  std::string subject;
+  std::string body;
+  std::vector<std::string> attachmentNames;
+
+  friend bool operator==(const ShownMessage&, const ShownMessage&) = default;
+};
+
+class Adapter {
+ public:
+  virtual ~Adapter() = default;
+
+  // How the surroundings are; to be set before the first call of `platform`.
+  virtual void useMainBundle(const MainBundle& bundle) = 0;
+  virtual void useSystemVersion(const OperatingSystemVersion& version) = 0;
+  virtual void useUserInterfaceStyle(UserInterfaceStyle style) = 0;
+  virtual void useMail(bool available) = 0;
+
+  virtual const Platform& platform() = 0;
+
+  virtual FileLocation makeFile(const std::string& bytes) = 0;
+  virtual FileLocation makeFolder() = 0;
+  virtual FileLocation missingFile() = 0;
+
+  // What reaches the console and the system while `act` runs.
+  virtual std::vector<std::string> printedBy(const std::function<void()>& act) = 0;
+  virtual std::vector<std::string> openedBy(const std::function<void()>& act) = 0;
+
+  // A screen of the host's, not yet presented, and one that is on the screen as the first of all.
+  virtual std::shared_ptr<ViewController> makeScreen() = 0;
+  virtual std::shared_ptr<ViewController> makeRootScreen() = 0;
+  virtual bool isOnScreen(ViewController& controller) = 0;
+
+  // Waits until nothing moves any more.
+  virtual void settle() = 0;
+
+  // The user swipes the screen away, or presses Escape.
+  virtual void leave(ViewController& controller) = 0;
+
+  virtual void tap(AlertController& alert, std::size_t button) = 0;
+  virtual ShownMessage shown(MailComposer& composer) = 0;
+
+  // The user sends, saves or cancels.
+  virtual void finish(MailComposer& composer, MailComposeResult how) = 0;
+};
+
+struct AdapterUnderTest {
+  const char* name;
+  std::unique_ptr<Adapter> (*make)();
+
+  friend void PrintTo(const AdapterUnderTest& adapter, std::ostream* out) { *out << adapter.name; }
+};
+
+class Suite : public testing::TestWithParam<AdapterUnderTest> {
+ protected:
+  Adapter& adapter() { return *adapter_; }
+  const Platform& platform() { return adapter_->platform(); }
+
+ private:
+  std::unique_ptr<Adapter> adapter_ = GetParam().make();
+};
+
+}  // namespace qv_commons::conformance
+
+#define QV_RUN_SUITE(suite, name, make)                                                  \
+  INSTANTIATE_TEST_SUITE_P(name, suite, testing::Values(AdapterUnderTest{#name, &make}), \
+                           [](const auto&) { return std::string("Adapter"); })

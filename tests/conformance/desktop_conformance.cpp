@@ -1,0 +1,137 @@
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <optional>
+#include <sstream>
+
+#include "tests/conformance/suites.h"
+#include "tests/desktop/desktop_driver.h"
+#include "tests/desktop/url_catcher.h"
+
+namespace qv_commons::conformance {
+namespace {
+
+// An element of a property list. The tests' texts hold no character that XML reserves.
+std::string elementOf(const InfoDictionaryValue& value) {
+  if (const auto* text = std::get_if<std::string>(&value)) return "<string>" + *text + "</string>";
+  if (const auto* number = std::get_if<std::int64_t>(&value)) {
+    return "<integer>" + std::to_string(*number) + "</integer>";
+  }
+  if (const auto* real = std::get_if<double>(&value)) {
+    return "<real>" + std::to_string(*real) + "</real>";
+  }
+  if (const auto* truth = std::get_if<bool>(&value)) return *truth ? "<true/>" : "<false/>";
+  return "<array/>";
+}
+
+class DesktopAdapter final : public Adapter {
+ public:
+  void useMainBundle(const MainBundle& bundle) override {
+    std::string elements;
+    for (const auto& [key, value] : bundle.info) {
+      elements += "<key>" + key + "</key>" + elementOf(value);
+    }
+    if (bundle.identifier) {
+      elements += "<key>CFBundleIdentifier</key><string>" + *bundle.identifier + "</string>";
+    }
+    folder_.write("bundle/Info.plist",
+                  R"(<?xml version="1.0" encoding="UTF-8"?><plist version="1.0"><dict>)" +
+                      elements + "</dict></plist>");
+    if (bundle.namesReceiptLocation) makeDirectory("bundle/StoreKit");
+    settings_.bundleDirectory = folder_.path("bundle");
+  }
+  void useSystemVersion(const OperatingSystemVersion& version) override {
+    settings_.systemVersion = version;
+  }
+  void useUserInterfaceStyle(UserInterfaceStyle style) override {
+    settings_.userInterfaceStyle = style;
+  }
+  void useMail(bool available) override {
+    settings_.sendmailProgram =
+        available ? folder_.writeProgram("sendmail", "cat >/dev/null") : folder_.path("none");
+  }
+
+  const Platform& platform() override { return desktop().platform(); }
+
+  FileLocation makeFile(const std::string& bytes) override { return folder_.write("file", bytes); }
+  FileLocation makeFolder() override { return makeDirectory("folder"); }
+  FileLocation missingFile() override { return folder_.path("missing"); }
+
+  std::vector<std::string> printedBy(const std::function<void()>& act) override {
+    testing::internal::CaptureStdout();
+    act();
+    std::istringstream output(testing::internal::GetCapturedStdout());
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(output, line);) lines.push_back(line);
+    return lines;
+  }
+  std::vector<std::string> openedBy(const std::function<void()>& act) override {
+    const desktop::UrlCatcher browser("https");
+    act();
+    return browser.urls();
+  }
+
+  std::shared_ptr<ViewController> makeScreen() override {
+    QWidget& window = *windows_.emplace_back(std::make_unique<QWidget>());
+    window.resize(375, 667);
+    return desktop().viewController(window);
+  }
+  std::shared_ptr<ViewController> makeRootScreen() override {
+    std::shared_ptr<ViewController> root = makeScreen();
+    desktop::windowOf(*root).show();
+    return root;
+  }
+  bool isOnScreen(ViewController& controller) override { return desktop::isOnScreen(controller); }
+
+  void settle() override { desktop::settle(); }
+  void leave(ViewController& controller) override { desktop::press(controller, Qt::Key_Escape); }
+  void tap(AlertController& alert, std::size_t button) override {
+    desktop::click(alert, ("action" + std::to_string(button)).c_str());
+  }
+  ShownMessage shown(MailComposer& composer) override {
+    ShownMessage shown{desktop::find<QLineEdit>(composer, "to").text().toStdString(),
+                       desktop::find<QLineEdit>(composer, "subject").text().toStdString(),
+                       desktop::find<QPlainTextEdit>(composer, "body").toPlainText().toStdString(),
+                       {}};
+    for (const QLabel* label :
+         desktop::windowOf(composer).findChildren<QLabel*>("attachmentName")) {
+      shown.attachmentNames.push_back(label->text().remove(QChar(0x200b)).toStdString());
+    }
+    return shown;
+  }
+  void finish(MailComposer& composer, MailComposeResult how) override {
+    desktop::click(composer, how == MailComposeResult::sent    ? "send"
+                             : how == MailComposeResult::saved ? "save"
+                                                               : "cancel");
+    EXPECT_TRUE(desktop::waitUntil([&] { return !desktop::isOnScreen(composer); }));
+  }
+
+ private:
+  std::string makeDirectory(const std::string& name) const {
+    QDir().mkpath(QString::fromStdString(folder_.path(name)));
+    return folder_.path(name);
+  }
+
+  desktop::DesktopPlatform& desktop() {
+    if (!desktop_) {
+      settings_.dataDirectory = folder_.path("data");
+      desktop_.emplace(settings_);
+    }
+    return *desktop_;
+  }
+
+  desktop::TestFolder folder_;
+  desktop::DesktopSettings settings_;
+  std::vector<std::unique_ptr<QWidget>> windows_;
+  std::optional<desktop::DesktopPlatform> desktop_;
+};
+
+std::unique_ptr<Adapter> makeDesktopAdapter() {
+  return std::make_unique<DesktopAdapter>();
+}
+
+QV_RUN_ALL_SUITES(Desktop, makeDesktopAdapter);
+
+}  // namespace
+}  // namespace qv_commons::conformance

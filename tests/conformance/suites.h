@@ -1,0 +1,24 @@
+// Every suite, and how a program runs them all over its adapter.
+#pragma once
+
+#include "tests/conformance/alert_suite.h"
+#include "tests/conformance/bundle_suite.h"
+#include "tests/conformance/files_suite.h"
+#include "tests/conformance/mail_composer_suite.h"
+#include "tests/conformance/presentation_suite.h"
+#include "tests/conformance/system_suite.h"
+
+#define QV_RUN_ALL_SUITES(name, make)                \
+  QV_RUN_SUITE(AlertConformance, name, make);        \
+  QV_RUN_SUITE(ApplicationConformance, name, make);  \
+  QV_RUN_SUITE(BundleConformance, name, make);       \
+  QV_RUN_SUITE(ClockConformance, name, make);        \
+  QV_RUN_SUITE(ConsoleConformance, name, make);      \
+  QV_RUN_SUITE(DeviceConformance, name, make);       \
+  QV_RUN_SUITE(FilesConformance, name, make);        \
+  QV_RUN_SUITE(LanguagesConformance, name, make);    \
+  QV_RUN_SUITE(MailComposerConformance, name, make); \
+  QV_RUN_SUITE(NoMailConformance, name, make);       \
+  QV_RUN_SUITE(PresentationConformance, name, make); \
+  QV_RUN_SUITE(ScreenConformance, name, make);       \
+  QV_RUN_SUITE(SystemVersionConformance, name, make)

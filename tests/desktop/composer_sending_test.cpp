@@ -1,0 +1,294 @@
+// What becomes of a message that the user sends, saves or cancels.
+#include "tests/desktop/composer_fixture.h"
+
+namespace qv_commons::desktop {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+class ComposerSending : public ComposerTest {
+ protected:
+  // Sends with a program that fails, and expects that nothing is lost.
+  void expectFailure(const std::string& reason) {
+    open();
+    press(*composer_, Qt::Key_X);
+    click(*composer_, "send");
+    ASSERT_TRUE(waitForNotice("Not sent.")) << noticeText();
+    EXPECT_THAT(noticeText(), StartsWith("Not sent. " + reason + "\nA copy is kept as "));
+    EXPECT_TRUE(isOpen());
+    EXPECT_THAT(delegate_->results, IsEmpty());
+    EXPECT_EQ(text("to"), "support@example.com");
+    EXPECT_EQ(text("subject"), "Help");
+    EXPECT_EQ(body(), "xReason:\n\nApp: x\n");
+    EXPECT_TRUE(find<QPushButton>(*composer_, "send").isEnabled());
+    EXPECT_FALSE(find<QPlainTextEdit>(*composer_, "body").isReadOnly());
+    EXPECT_THAT(onlyDraft(), HasSubstr("\n\nxReason:\n\nApp: x\n"));
+  }
+};
+
+TEST_F(ComposerSending, HandsTheMessageToTheMailProgram) {
+  settings_.sendmailArguments = {"-C", "a file; rm -rf $HOME"};
+  open();
+  click(*composer_, "send");
+  ASSERT_TRUE(waitUntil([&] { return !isOpen(); })) << noticeText();
+  EXPECT_THAT(delegate_->results, ElementsAre(MailComposeResult::sent));
+  EXPECT_EQ(readFile(folder_.path("arguments")), "-C a file; rm -rf $HOME -t -i\n");
+  EXPECT_THAT(readFile(folder_.path("sent")),
+              HasSubstr("\nSubject: Help\nTo: support@example.com\n"));
+  EXPECT_THAT(readFile(folder_.path("sent")), HasSubstr("\n\nReason:\n\nApp: x\n"));
+  EXPECT_THAT(drafts(), IsEmpty());
+}
+
+TEST_F(ComposerSending, SendsWhatTheUserMadeOfTheMessage) {
+  open();
+  QLineEdit& subject = find<QLineEdit>(*composer_, "subject");
+  click(subject);
+  press(*composer_, Qt::Key_End);
+  type(*composer_, " me");
+  click(*composer_, "body");
+  press(*composer_, Qt::Key_Home, Qt::ControlModifier);
+  type(*composer_, "Hi. ");
+  click(*composer_, "send");
+  ASSERT_TRUE(waitUntil([&] { return !isOpen(); })) << noticeText();
+  EXPECT_THAT(readFile(folder_.path("sent")), HasSubstr("\nSubject: Help me\n"));
+  EXPECT_THAT(readFile(folder_.path("sent")), HasSubstr("\n\nHi. Reason:\n\nApp: x\n"));
+}
+
+TEST_F(ComposerSending, SaysThatItSendsAndSendsOnce) {
+  useMailProgram("cat >>\"" + folder_.path("sent") + "\"; echo run >>\"" + folder_.path("runs") +
+                 "\"; sleep 0.5");
+  open();
+  click(*composer_, "send");
+  EXPECT_EQ(noticeText(), "Sending…");
+  EXPECT_FALSE(find<QPushButton>(*composer_, "send").isEnabled());
+  EXPECT_FALSE(find<QPushButton>(*composer_, "save").isEnabled());
+  EXPECT_TRUE(find<QLineEdit>(*composer_, "to").isReadOnly());
+  EXPECT_TRUE(find<QLineEdit>(*composer_, "subject").isReadOnly());
+  EXPECT_TRUE(find<QPlainTextEdit>(*composer_, "body").isReadOnly());
+  click(*composer_, "send");
+  press(*composer_, Qt::Key_Return, Qt::ControlModifier);
+  press(*composer_, Qt::Key_S, Qt::ControlModifier);
+  press(*composer_, Qt::Key_Escape);
+  windowOf(*composer_).close();
+  settle();
+  EXPECT_TRUE(isOpen());
+  ASSERT_TRUE(waitUntil([&] { return !isOpen(); })) << noticeText();
+  EXPECT_EQ(readFile(folder_.path("runs")), "run\n");
+  EXPECT_THAT(delegate_->results, ElementsAre(MailComposeResult::sent));
+}
+
+TEST_F(ComposerSending, SaysThatTheServerRefused) {
+  useMailProgram("echo 'recipient not accepted' >&2; exit 65");
+  expectFailure("The mail server refused the address or the message. (recipient not accepted)");
+}
+
+TEST_F(ComposerSending, SaysThatTheServerCannotBeReached) {
+  useMailProgram("exit 75");
+  expectFailure("The mail server can't be reached at the moment. Please try again later.");
+}
+
+TEST_F(ComposerSending, SaysThatMailIsNotSetUp) {
+  useMailProgram("exit 78");
+  expectFailure("Mail is not set up on this computer.");
+}
+
+TEST_F(ComposerSending, SaysWithWhichCodeTheProgramFailed) {
+  useMailProgram("exit 3");
+  expectFailure("The mail program failed with code 3.");
+}
+
+TEST_F(ComposerSending, ShortensALongComplaint) {
+  useMailProgram("head -c 5000 /dev/zero | tr '\\0' 'x' >&2; exit 3");
+  expectFailure("The mail program failed with code 3. (" + std::string(300, 'x') + "…)");
+}
+
+TEST_F(ComposerSending, SaysThatTheProgramCrashed) {
+  useMailProgram("kill -SEGV $$");
+  expectFailure("The mail program crashed.");
+}
+
+TEST_F(ComposerSending, SaysThatTheProgramCannotBeStarted) {
+  useMailProgram("");
+  folder_.write("sendmail", "#!/nonexistent/interpreter\n");
+  expectFailure("The mail program can't be started: execvp: No such file or directory.");
+}
+
+TEST_F(ComposerSending, EndsAProgramThatHangsWithAllItStarted) {
+  useMailProgram("sleep 1000 & echo $! >\"" + folder_.path("child") + "\"; echo $$ >\"" +
+                 folder_.path("program") + "\"; wait");
+  settings_.sendTimeout = std::chrono::milliseconds(300);
+  expectFailure("The mail program took too long and was ended.");
+  for (const char* name : {"child", "program"}) {
+    const std::string status =
+        "/proc/" + std::to_string(std::stoi(readFile(folder_.path(name)))) + "/status";
+    EXPECT_TRUE(waitUntil([&] {
+      const std::string text = readFile(status);
+      return text.empty() || text.find("State:\tZ") != std::string::npos;
+    })) << name;
+  }
+}
+
+TEST_F(ComposerSending, SaysThatTheProgramIsGone) {
+  open();
+  folder_.writeProgram("sendmail", "");
+  ASSERT_EQ(std::remove(settings_.sendmailProgram.c_str()), 0);
+  click(*composer_, "send");
+  EXPECT_THAT(noticeText(), StartsWith("Not sent. This computer has no mail program.\n"));
+  EXPECT_TRUE(isOpen());
+  EXPECT_THAT(onlyDraft(), HasSubstr("\n\nReason:\n\nApp: x\n"));
+}
+
+TEST_F(ComposerSending, CanBeStopped) {
+  useMailProgram("sleep 1000");
+  open();
+  click(*composer_, "send");
+  EXPECT_EQ(find<QPushButton>(*composer_, "cancel").text(), "&Stop");
+  click(*composer_, "cancel");
+  ASSERT_TRUE(
+      waitForNotice("Not sent. Sending was stopped. The message may have been sent all the "
+                    "same.\n"));
+  EXPECT_EQ(find<QPushButton>(*composer_, "cancel").text(), "&Cancel");
+  EXPECT_TRUE(isOpen());
+  EXPECT_EQ(drafts().size(), 1u);
+}
+
+TEST_F(ComposerSending, CanBeTriedAgain) {
+  useMailProgram("exit 75");
+  open();
+  click(*composer_, "send");
+  ASSERT_TRUE(waitForNotice("Not sent."));
+  useMailProgram("cat >\"" + folder_.path("sent") + "\"");
+  click(*composer_, "send");
+  ASSERT_TRUE(waitUntil([&] { return !isOpen(); })) << noticeText();
+  EXPECT_THAT(delegate_->results, ElementsAre(MailComposeResult::sent));
+  EXPECT_THAT(drafts(), IsEmpty());
+}
+
+TEST_F(ComposerSending, AFailedMessageThatIsCancelledIsCancelled) {
+  useMailProgram("exit 75");
+  open();
+  click(*composer_, "send");
+  ASSERT_TRUE(waitForNotice("Not sent."));
+  click(*composer_, "cancel");
+  settle();
+  EXPECT_FALSE(isOpen());
+  EXPECT_THAT(delegate_->results, ElementsAre(MailComposeResult::cancelled));
+  EXPECT_EQ(drafts().size(), 1u);
+}
+
+TEST_F(ComposerSending, EndsTheProgramWhenItIsTakenAwayMeanwhile) {
+  useMailProgram("echo $$ >\"" + folder_.path("program") + "\"; exec sleep 1000");
+  open();
+  click(*composer_, "send");
+  ASSERT_TRUE(waitUntil([&] { return !readFile(folder_.path("program")).empty(); }));
+  const std::string program = readFile(folder_.path("program"));
+  screen_->dismissViewController(true, nullptr);
+  composer_.reset();
+  settle();
+  EXPECT_EQ(readFile("/proc/" + std::to_string(std::stoi(program)) + "/status"), "");
+  EXPECT_THAT(delegate_->results, IsEmpty());
+  EXPECT_EQ(drafts().size(), 1u);
+}
+
+TEST_F(ComposerSending, RefusesAnAddressThatWouldForgeHeaders) {
+  open("support@example.com\r\nBcc: eve@example.com");
+  click(*composer_, "send");
+  settle();
+  EXPECT_EQ(noticeText(),
+            "The address holds a line break or another control character. Please take it out.");
+  EXPECT_TRUE(isOpen());
+  EXPECT_TRUE(find<QLineEdit>(*composer_, "to").hasFocus());
+  EXPECT_EQ(text("to"), "support@example.com\r\nBcc: eve@example.com");
+  EXPECT_EQ(readFile(folder_.path("sent")), "");
+  EXPECT_THAT(drafts(), IsEmpty());
+  click(*composer_, "save");
+  EXPECT_TRUE(isOpen());
+  EXPECT_THAT(drafts(), IsEmpty());
+  EXPECT_THAT(delegate_->results, IsEmpty());
+}
+
+TEST_F(ComposerSending, RefusesASubjectThatWouldForgeHeaders) {
+  open("support@example.com", std::string("Help\0me\nBcc: eve@example.com", 28));
+  click(*composer_, "send");
+  settle();
+  EXPECT_EQ(noticeText(),
+            "The subject holds a line break or another control character. Please take it out.");
+  EXPECT_TRUE(find<QLineEdit>(*composer_, "subject").hasFocus());
+  EXPECT_EQ(text("subject"), std::string("Help\0me\nBcc: eve@example.com", 28));
+  EXPECT_THAT(drafts(), IsEmpty());
+
+  press(*composer_, Qt::Key_H);  // takes the place of the whole subject, which is selected
+  click(*composer_, "send");
+  ASSERT_TRUE(waitUntil([&] { return !isOpen(); })) << noticeText();
+  EXPECT_THAT(readFile(folder_.path("sent")), HasSubstr("\nSubject: h\n"));
+}
+
+TEST_F(ComposerSending, RefusesHalfOfAnAddressWithAComma) {
+  open("first,last@example.com");
+  click(*composer_, "send");
+  EXPECT_EQ(noticeText(), "“first” is not an e-mail address.");
+  EXPECT_EQ(text("to"), "first,last@example.com");
+  EXPECT_EQ(readFile(folder_.path("sent")), "");
+}
+
+TEST_F(ComposerSending, SavesADraft) {
+  open();
+  click(*composer_, "save");
+  settle();
+  EXPECT_FALSE(isOpen());
+  EXPECT_THAT(delegate_->results, ElementsAre(MailComposeResult::saved));
+  EXPECT_THAT(onlyDraft(), HasSubstr("\nSubject: Help\nTo: support@example.com\n"));
+  EXPECT_EQ(readFile(folder_.path("sent")), "");
+}
+
+TEST_F(ComposerSending, SaysWhyADraftCannotBeSaved) {
+  folder_.write("data", "a file in the folder's place");
+  open();
+  for (const char* button : {"save", "send"}) {
+    click(*composer_, button);
+    EXPECT_THAT(noticeText(), StartsWith(folder_.path("data/drafts/")));
+    EXPECT_THAT(noticeText(), testing::EndsWith(" can't be written: Not a directory."));
+    EXPECT_TRUE(isOpen());
+  }
+  EXPECT_THAT(delegate_->results, IsEmpty());
+}
+
+TEST_F(ComposerSending, CancelsWithoutATrace) {
+  open();
+  press(*composer_, Qt::Key_X);
+  click(*composer_, "cancel");
+  settle();
+  EXPECT_FALSE(isOpen());
+  EXPECT_THAT(delegate_->results, ElementsAre(MailComposeResult::cancelled));
+  EXPECT_THAT(drafts(), IsEmpty());
+  EXPECT_EQ(readFile(folder_.path("sent")), "");
+}
+
+TEST_F(ComposerSending, GoesByItselfWhereItsDelegateIsGone) {
+  open();
+  delegate_.reset();
+  click(*composer_, "send");
+  EXPECT_TRUE(waitUntil([&] { return !isOpen(); })) << noticeText();
+  EXPECT_EQ(screen_->presentedViewController(), nullptr);
+}
+
+TEST_F(ComposerSending, CarriesOnWhileAnotherComposerIsOpenAbove) {
+  useMailProgram("cat >\"" + folder_.path("sent") + "\"; sleep 0.3");
+  open();
+  click(*composer_, "send");
+  const auto above = desktop_->platform().mailComposers.makeMailComposer();
+  screen_->presentViewController(above, true, nullptr);
+  settle();
+  ASSERT_TRUE(waitUntil([&] { return !isOpen(); }));
+  EXPECT_THAT(delegate_->results, ElementsAre(MailComposeResult::sent));
+  EXPECT_TRUE(isOnScreen(*above));
+  click(*above, "cancel");
+  settle();
+  EXPECT_FALSE(isOnScreen(*above));
+}
+
+}  // namespace
+}  // namespace qv_commons::desktop

@@ -1,0 +1,168 @@
+// The composer as a window: keyboard, screen reader, what blocks what.
+#include <QAccessible>
+#include <QApplication>
+
+#include "tests/desktop/composer_fixture.h"
+
+namespace qv_commons::desktop {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class ComposerWindows : public ComposerTest {
+ protected:
+  std::string focused() { return QApplication::focusWidget()->objectName().toStdString(); }
+
+  QAccessibleInterface& accessible(const char* name) {
+    return *QAccessible::queryAccessibleInterface(&find<QWidget>(*composer_, name));
+  }
+};
+
+TEST_F(ComposerWindows, ComesUpOverTheHostsAndBlocksIt) {
+  QPushButton button("host", &host_);
+  int clicks = 0;
+  QObject::connect(&button, &QPushButton::clicked, [&] { ++clicks; });
+  button.show();
+  click(button);
+  EXPECT_EQ(clicks, 1);
+  open();
+  EXPECT_EQ(windowOf(*composer_).geometry(), host_.geometry());
+  EXPECT_EQ(windowOf(*composer_).windowModality(), Qt::WindowModal);
+  click(button);
+  EXPECT_EQ(clicks, 1);
+  click(*composer_, "cancel");
+  settle();
+  click(button);
+  EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(ComposerWindows, AnotherOneAboveBlocksIt) {
+  open();
+  const auto above = desktop_->platform().mailComposers.makeMailComposer();
+  screen_->presentViewController(above, true, nullptr);
+  settle();
+  click(*composer_, "cancel");
+  settle();
+  EXPECT_TRUE(isOpen());
+  click(*above, "cancel");
+  settle();
+  EXPECT_FALSE(isOnScreen(*above));
+  click(*composer_, "cancel");
+  settle();
+  EXPECT_FALSE(isOpen());
+}
+
+TEST_F(ComposerWindows, TabGoesThroughFieldsAndButtonsInTheirOrder) {
+  open();
+  std::vector<std::string> order{focused()};
+  for (int i = 0; i < 6; ++i) {
+    press(*composer_, Qt::Key_Tab);
+    order.push_back(focused());
+  }
+  EXPECT_THAT(order, ElementsAre("body", "save", "send", "cancel", "to", "subject", "body"));
+}
+
+TEST_F(ComposerWindows, ReturnInAFieldDoesNotSend) {
+  open();
+  click(*composer_, "subject");
+  press(*composer_, Qt::Key_Return);
+  settle();
+  EXPECT_TRUE(isOpen());
+  EXPECT_EQ(noticeText(), "");
+}
+
+TEST_F(ComposerWindows, ControlReturnSends) {
+  open();
+  press(*composer_, Qt::Key_Return, Qt::ControlModifier);
+  ASSERT_TRUE(waitUntil([&] { return !isOpen(); }));
+  EXPECT_THAT(delegate_->results, ElementsAre(MailComposeResult::sent));
+}
+
+TEST_F(ComposerWindows, ControlSSaves) {
+  open();
+  press(*composer_, Qt::Key_S, Qt::ControlModifier);
+  ASSERT_TRUE(waitUntil([&] { return !isOpen(); }));
+  EXPECT_THAT(delegate_->results, ElementsAre(MailComposeResult::saved));
+}
+
+TEST_F(ComposerWindows, AltAndALetterGoToAField) {
+  open();
+  press(*composer_, Qt::Key_T, Qt::AltModifier);
+  EXPECT_EQ(focused(), "to");
+  press(*composer_, Qt::Key_U, Qt::AltModifier);
+  EXPECT_EQ(focused(), "subject");
+  press(*composer_, Qt::Key_M, Qt::AltModifier);
+  EXPECT_EQ(focused(), "body");
+  press(*composer_, Qt::Key_C, Qt::AltModifier);
+  ASSERT_TRUE(waitUntil([&] { return !isOpen(); }));
+  EXPECT_THAT(delegate_->results, ElementsAre(MailComposeResult::cancelled));
+}
+
+TEST_F(ComposerWindows, EscapeCancelsWhatNobodyTouched) {
+  open();
+  press(*composer_, Qt::Key_Escape);
+  settle();
+  EXPECT_FALSE(isOpen());
+  EXPECT_THAT(delegate_->results, ElementsAre(MailComposeResult::cancelled));
+}
+
+TEST_F(ComposerWindows, EscapeAndTheCloseButtonKeepWhatWasTyped) {
+  open();
+  press(*composer_, Qt::Key_X);
+  press(*composer_, Qt::Key_Escape);
+  EXPECT_EQ(noticeText(),
+            "Your message is still here. Save it as a draft, or cancel to discard it.");
+  windowOf(*composer_).close();
+  settle();
+  EXPECT_TRUE(isOpen());
+  EXPECT_EQ(body(), "xReason:\n\nApp: x\n");
+  EXPECT_THAT(delegate_->results, IsEmpty());
+}
+
+TEST_F(ComposerWindows, TheCloseButtonCancelsWhatNobodyTouched) {
+  open();
+  windowOf(*composer_).close();
+  settle();
+  EXPECT_FALSE(isOpen());
+  EXPECT_THAT(delegate_->results, ElementsAre(MailComposeResult::cancelled));
+}
+
+TEST_F(ComposerWindows, EscapeDoesNothingWhereTheScreenIsModal) {
+  open();
+  composer_->setModalInPresentation(true);
+  press(*composer_, Qt::Key_Escape);
+  windowOf(*composer_).close();
+  settle();
+  EXPECT_TRUE(isOpen());
+  EXPECT_EQ(noticeText(), "");
+}
+
+TEST_F(ComposerWindows, IsNamedForScreenReaders) {
+  open();
+  EXPECT_EQ(accessible("to").text(QAccessible::Name), "To");
+  EXPECT_EQ(accessible("subject").text(QAccessible::Name), "Subject");
+  EXPECT_EQ(accessible("body").text(QAccessible::Name), "Message");
+  EXPECT_EQ(accessible("send").text(QAccessible::Name), "Send");
+  EXPECT_EQ(accessible("save").text(QAccessible::Name), "Save draft");
+  EXPECT_EQ(accessible("cancel").text(QAccessible::Name), "Cancel");
+  EXPECT_EQ(accessible("attachmentSize").text(QAccessible::Name),
+            "Attachment Receipt-Data.txt, 4 bytes");
+  EXPECT_EQ(windowOf(*composer_).windowTitle(), "New message");
+}
+
+TEST_F(ComposerWindows, GivesItsNoticesToScreenReadersWithoutPlacesToBreak) {
+  open("nobody");
+  click(*composer_, "send");
+  EXPECT_EQ(accessible("notice").text(QAccessible::Name), "“nobody” is not an e-mail address.");
+}
+
+TEST_F(ComposerWindows, ShowsTheAttachmentWithItsSize) {
+  open();
+  EXPECT_EQ(find<QLabel>(*composer_, "attachmentName").text().remove(QChar(0x200b)),
+            "Receipt-Data.txt");
+  EXPECT_EQ(find<QLabel>(*composer_, "attachmentSize").text(), "4 bytes");
+}
+
+}  // namespace
+}  // namespace qv_commons::desktop

@@ -1,0 +1,57 @@
+// What a test of the desktop adapter does as its user: looks at windows, clicks, types, waits.
+//
+// Clicks and keys go to the window, as the system's do, so that what blocks them does here too.
+#pragma once
+
+#include <QAbstractButton>
+#include <QString>
+#include <QTemporaryDir>
+#include <QWidget>
+#include <functional>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+#include "qv_commons/platform/desktop/desktop_platform.h"
+
+namespace qv_commons::desktop {
+
+// A folder that goes with the object, and its files.
+class TestFolder {
+ public:
+  std::string path(const std::string& name = "") const;
+  std::string write(const std::string& name, const std::string& bytes) const;  // gives the path
+
+  // A program for /bin/sh, called as a mail program would be.
+  std::string writeProgram(const std::string& name, const std::string& script) const;
+
+  std::vector<std::string> list(const std::string& name) const;  // names in a folder, sorted
+
+ private:
+  QTemporaryDir directory_;
+};
+
+std::string readFile(const std::string& path);
+
+QWidget& windowOf(const ViewController& controller);
+bool isOnScreen(const ViewController& controller);
+
+// The widget of that name; a fatal error of the test where there is none.
+template <class Widget>
+Widget& find(const ViewController& controller, const char* name) {
+  auto* widget = windowOf(controller).findChild<Widget*>(name);
+  if (widget == nullptr) throw std::runtime_error(std::string("no widget ") + name);
+  return *widget;
+}
+
+void click(QWidget& widget);
+void click(const ViewController& controller, const char* name);
+void press(const ViewController& controller, Qt::Key key, Qt::KeyboardModifiers modifiers = {});
+void type(const ViewController& controller, const char* text);
+
+// Lets the event loop run: for as long as it has something to do, or until `condition` holds, at
+// most ten seconds.
+void settle();
+bool waitUntil(const std::function<bool()>& condition);
+
+}  // namespace qv_commons::desktop

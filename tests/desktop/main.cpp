@@ -1,0 +1,15 @@
+// The entry of every program that tests the desktop adapter.
+#include <QApplication>
+#include <QStandardPaths>
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv) {
+  testing::InitGoogleTest(&argc, argv);
+  if (qEnvironmentVariableIsEmpty("DISPLAY")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  QStandardPaths::setTestModeEnabled(true);  // keeps away from the user's own data
+  QApplication application(argc, argv);
+  QApplication::setApplicationName("qv_commons_tests");
+  QApplication::setStyle("fusion");
+  QApplication::setQuitOnLastWindowClosed(false);
+  return RUN_ALL_TESTS();
+}

@@ -1,0 +1,195 @@
+// The support e-mail over real windows: what the library's core and this adapter make together.
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <gmock/gmock.h>
+#include <sys/stat.h>
+
+#include "qv_commons/support/support_helper.h"
+
+#include "tests/desktop/desktop_driver.h"
+
+namespace qv_commons::desktop {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+struct Host final : QV_SupportHelperDelegate {
+  int completions = 0;
+  void onCompletion() override { ++completions; }
+};
+
+class SupportMail : public testing::Test {
+ protected:
+  SupportMail() {
+    folder_.write("bundle/Info.plist", "<plist version=\"1.0\"><dict/></plist>");
+    window_.resize(375, 667);
+    window_.show();
+    settle();
+  }
+
+  void useReceipt(const std::string& bytes) { folder_.write("bundle/StoreKit/receipt", bytes); }
+
+  const ViewController& contactSupport(const std::string& metadata = "") {
+    helper_->contactSupport(*screen_, "support@example.com", "Help", {}, std::nullopt, metadata,
+                            host_);
+    settle();
+    return *screen_->presentedViewController();
+  }
+
+  // What the console says when a request is made, whose composer is then left.
+  std::string consoleOfARequest() {
+    testing::internal::CaptureStdout();
+    const ViewController& composer = contactSupport();
+    std::string said = testing::internal::GetCapturedStdout();
+    EXPECT_EQ(windowOf(composer).findChild<QLabel*>("attachmentName"), nullptr);
+    click(composer, "cancel");
+    settle();
+    EXPECT_EQ(host_->completions, 1);
+    return said;
+  }
+
+  std::string onlyDraft() {
+    const std::vector<std::string> names = folder_.list("data/drafts");
+    EXPECT_EQ(names.size(), 1u);
+    return names.empty() ? "" : readFile(folder_.path("data/drafts/" + names.front()));
+  }
+
+  TestFolder folder_;
+  QWidget window_;
+  DesktopPlatform desktop_{{.bundleDirectory = folder_.path("bundle"),
+                            .dataDirectory = folder_.path("data"),
+                            .sendmailProgram = folder_.writeProgram("sendmail", "cat >/dev/null"),
+                            .senderAddress = "ada@example.com"}};
+  ScopedPlatform scope_{desktop_.platform()};
+  std::shared_ptr<ViewController> screen_ = desktop_.viewController(window_);
+  std::shared_ptr<QV_SupportHelper> helper_ = QV_SupportHelper::create();
+  std::shared_ptr<Host> host_ = std::make_shared<Host>();
+};
+
+TEST_F(SupportMail, ShowsAnAlertWhereNoMailCanBeSent) {
+  ASSERT_EQ(std::remove(folder_.path("sendmail").c_str()), 0);
+  const ViewController& alert = contactSupport();
+  EXPECT_EQ(alert.kind(), ViewControllerKind::alert);
+  EXPECT_EQ(find<QLabel>(alert, "title").text(), "Error");
+  EXPECT_EQ(find<QLabel>(alert, "message").text().remove(QChar(0x200b)),
+            "Please configure your email account in the Settings.");
+  EXPECT_EQ(windowOf(alert).findChildren<QPushButton*>().size(), 1);
+  EXPECT_EQ(find<QPushButton>(alert, "action0").text(), "OK");
+  click(alert, "action0");
+  settle();
+  EXPECT_EQ(screen_->presentedViewController(), nullptr);
+  EXPECT_EQ(host_->completions, 0);
+}
+
+TEST_F(SupportMail, SaysNothingWhereThereIsNoReceiptLocation) {
+  EXPECT_EQ(consoleOfARequest(), "");
+}
+
+TEST_F(SupportMail, GoesWithoutAReceiptThatIsMissing) {
+  ASSERT_EQ(::mkdir(folder_.path("bundle/StoreKit").c_str(), 0700), 0);
+  EXPECT_EQ(consoleOfARequest(), "error converting receipt to Data: No such file or directory\n");
+}
+
+TEST_F(SupportMail, GoesWithoutAReceiptThatIsAFolder) {
+  folder_.write("bundle/StoreKit/receipt/inside", "");
+  EXPECT_EQ(consoleOfARequest(), "error converting receipt to Data: Is a directory\n");
+}
+
+// A link to itself stops the superuser too.
+TEST_F(SupportMail, GoesWithoutAReceiptThatCannotBeRead) {
+  ASSERT_EQ(::mkdir(folder_.path("bundle/StoreKit").c_str(), 0700), 0);
+  ASSERT_EQ(::symlink("receipt", folder_.path("bundle/StoreKit/receipt").c_str()), 0);
+  EXPECT_EQ(consoleOfARequest(),
+            "error converting receipt to Data: Too many levels of symbolic links\n");
+}
+
+TEST_F(SupportMail, AttachesAnEmptyReceipt) {
+  useReceipt("");
+  const ViewController& composer = contactSupport();
+  EXPECT_EQ(find<QLabel>(composer, "attachmentSize").text(), "0 bytes");
+  click(composer, "save");
+  settle();
+  EXPECT_THAT(onlyDraft(), HasSubstr("Content-Type: Text/XML; name=Receipt-Data.txt\n"));
+}
+
+// "xxx" is "eHh4" in base64, and "eHh4" is "ZUhoNA==".
+TEST_F(SupportMail, AttachesAHundredMegabytes) {
+  useReceipt(std::string(99'999'999, 'x'));
+  const ViewController& composer = contactSupport();
+  EXPECT_EQ(find<QLabel>(composer, "attachmentSize").text(), "133.3 MB");
+  click(composer, "save");
+  ASSERT_TRUE(waitUntil([&] { return host_->completions == 1; }));
+  const std::string draft = onlyDraft();
+  EXPECT_GT(draft.size(), 4 * (133'333'332 / 3));
+  EXPECT_THAT(draft.substr(0, 2000), HasSubstr("\n\nZUhoNGVIaDRlSGg0"));
+}
+
+TEST_F(SupportMail, TellsTheHostOnceTheComposerIsGone) {
+  const ViewController& composer = contactSupport();
+  click(composer, "send");
+  ASSERT_TRUE(waitUntil([&] { return host_->completions == 1; }));
+  EXPECT_EQ(screen_->presentedViewController(), nullptr);
+  EXPECT_EQ(helper_->delegate(), nullptr);
+}
+
+TEST_F(SupportMail, SkipsAHostThatIsGone) {
+  const ViewController& composer = contactSupport();
+  host_.reset();
+  click(composer, "cancel");
+  settle();
+  EXPECT_EQ(screen_->presentedViewController(), nullptr);
+}
+
+TEST_F(SupportMail, ClosesTheComposerOfAHelperThatIsGone) {
+  const ViewController& composer = contactSupport();
+  helper_.reset();
+  click(composer, "cancel");
+  settle();
+  EXPECT_EQ(screen_->presentedViewController(), nullptr);
+  EXPECT_EQ(host_->completions, 0);
+}
+
+TEST_F(SupportMail, ASecondRequestTakesTheSlotOfTheFirst) {
+  const ViewController& first = contactSupport();
+  const std::shared_ptr<Host> firstHost = std::exchange(host_, std::make_shared<Host>());
+  const ViewController& second = contactSupport();
+  EXPECT_NE(&first, &second);
+  click(second, "cancel");
+  settle();
+  EXPECT_EQ(host_->completions, 1);
+  EXPECT_EQ(screen_->presentedViewController(), &first);
+  click(first, "cancel");
+  settle();
+  EXPECT_EQ(screen_->presentedViewController(), nullptr);
+  EXPECT_EQ(host_->completions, 1);
+  EXPECT_EQ(firstHost->completions, 0);
+}
+
+TEST_F(SupportMail, TwoClicksAreOneFinish) {
+  const ViewController& composer = contactSupport();
+  QPushButton& cancel = find<QPushButton>(composer, "cancel");
+  cancel.click();
+  cancel.click();
+  settle();
+  EXPECT_EQ(host_->completions, 1);
+}
+
+TEST_F(SupportMail, KeepsTheBytesOfMetadataWhenTheUserWritesAbove) {
+  const ViewController& composer = contactSupport("a\rb\r\nc\n");
+  press(composer, Qt::Key_X);
+  click(composer, "save");
+  settle();
+  const std::string draft = onlyDraft();
+  const std::size_t start = draft.find("base64\n\n") + 8;
+  const QByteArray encoded = QByteArray::fromStdString(draft.substr(start));
+  const std::string body = QByteArray::fromBase64(encoded).toStdString();
+  EXPECT_THAT(body, testing::StartsWith("xReason for contacting support:\n\n"));
+  EXPECT_THAT(body, testing::EndsWith("\nIAP: No \na\rb\r\nc\n"));
+}
+
+}  // namespace
+}  // namespace qv_commons::desktop
