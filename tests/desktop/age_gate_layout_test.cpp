@@ -179,7 +179,7 @@ double luminanceOf(const Color& color) {
 }
 
 double contrastOf(const Color& one, const Color& other) {
-  const auto [darker, lighter] = std::minmax(luminanceOf(one), luminanceOf(other));
+  const auto [darker, lighter] = std::minmax({luminanceOf(one), luminanceOf(other)});
   return (lighter + 0.05) / (darker + 0.05);
 }
 

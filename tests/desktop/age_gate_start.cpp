@@ -1,8 +1,8 @@
 // One start of a host app without a display, for kill_test.py: prints "asked", "allowed" or
 // "refused" and ends.
 //
-// With a year, it first picks that year and confirms: prints "confirming", and "told" once the
-// outcome has been painted or the host has been called; then waits to be killed.
+// With a year, it picks that year, prints "ready", waits for a line and confirms; prints "told"
+// once the refusal has been painted or the host has been called; then waits to be killed.
 #include <QApplication>
 #include <QPushButton>
 #include <QTest>
@@ -52,7 +52,8 @@ void pickAndConfirm(int year) {
   }
   auto* button = gate->findChild<QPushButton*>("confirmBtn");
   const QPoint place = button->mapTo(gate, button->rect().center());
-  say("confirming");
+  say("ready");
+  std::getchar();
   QTest::mouseClick(gate->windowHandle(), Qt::LeftButton, {}, place);
 }
 
@@ -82,9 +83,9 @@ int main(int count, char** arguments) {
     say(isAllowed ? "allowed" : screenWith("confirmBtn") != nullptr ? "asked" : "refused");
     std::_Exit(0);
   }
-  QTimer::singleShot(0, [year = std::stoi(arguments[2])] { pickAndConfirm(year); });
-  QTimer::singleShot(50, [&isAllowed] {
-    if (isAllowed) say("told");
+  QTimer::singleShot(0, [&isAllowed, year = std::stoi(arguments[2])] {
+    pickAndConfirm(year);
+    if (isAllowed) QTimer::singleShot(0, [] { say("told"); });
   });
   return QApplication::exec();
 }

@@ -11,7 +11,10 @@ class QtEnvironment : public testing::Environment {
   void SetUp() override {
     QApplication::setStyle("Fusion");
     application_ = std::make_unique<QApplication>(count_, arguments_);
-    QApplication::setFont(QFont("Inter"));
+    QFont font("Inter");
+    const int pixels = qEnvironmentVariableIntValue("QV_COMMONS_TEST_FONT_PIXELS");
+    font.setPixelSize(pixels > 0 ? pixels : 15);
+    QApplication::setFont(font);
     QApplication::setQuitOnLastWindowClosed(false);
   }
   void TearDown() override { application_.reset(); }

@@ -1,0 +1,54 @@
+#include <QLineEdit>
+#include <QTest>
+#include <gtest/gtest.h>
+#include <string_view>
+
+#include "qv_commons/platform/desktop/desktop_platform.h"
+#include "qv_commons/platform/desktop/desktop_search_bar.h"
+
+namespace qv_commons::desktop {
+namespace {
+
+class SearchBarWidget : public testing::TestWithParam<OperatingSystemVersion> {
+ protected:
+  DesktopPlatform desktop{{.systemVersion = GetParam()}};
+  ScopedPlatform scope{desktop.platform()};
+  DesktopSearchBar bar{"Search notes"};
+};
+
+TEST_P(SearchBarWidget, GivesTheFieldThatTheUserTypesInto) {
+  TextField* field = bar.qv_searchTextField_all_iOS_versions();
+  ASSERT_NE(field, nullptr);
+  EXPECT_EQ(field, bar.searchTextField());
+  EXPECT_EQ(field->text(), "");
+  bar.show();
+  bar.setFocus();
+  for (const char key : std::string_view("birthday")) QTest::keyClick(bar.windowHandle(), key);
+  EXPECT_EQ(field->text(), "birthday");
+  field->setText("Jubiläum \xF0\x9F\x8E\x82");
+  EXPECT_EQ(bar.line().text(), QString::fromUtf8("Jubiläum \xF0\x9F\x8E\x82"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Versions, SearchBarWidget,
+                         testing::Values(OperatingSystemVersion{12, 4, 0},
+                                         OperatingSystemVersion{13, 0, 0},
+                                         OperatingSystemVersion{17, 0, 0}),
+                         [](const auto& tested) {
+                           return "Version" + std::to_string(tested.param.majorVersion);
+                         });
+
+TEST(SearchBarWidgetAlone, IsNamedForScreenReadersAndTallEnoughForAFinger) {
+  const DesktopSearchBar bar("Search notes");
+  EXPECT_EQ(bar.line().accessibleName(), "Search notes");
+  EXPECT_EQ(bar.line().placeholderText(), "Search notes");
+  EXPECT_GE(bar.minimumSizeHint().height(), 44);
+}
+
+TEST(SearchBarWidgetDeathTest, KnowsOneKeyAndNoOther) {
+  const DesktopSearchBar bar("Search notes");
+  EXPECT_DEATH(bar.valueForKey("_field"),
+               "DesktopSearchBar: there is no value for the key \"_field\"");
+}
+
+}  // namespace
+}  // namespace qv_commons::desktop
