@@ -80,7 +80,7 @@ TEST_F(AgeGateScreen, SetsNoTextFromCode) {
   start();
   EXPECT_EQ(screen()->view<MemoryLabel>("header").text(), "What’s your date of birth?");
   EXPECT_EQ(screen()->view<MemoryLabel>("subtitle").text(),
-            "We only use it to check your age and don’t keep it.");
+            "Only used to check your age, never kept.");
 }
 
 TEST_F(AgeGateScreen, ReadsTheThemeWhenItLoadsAndNeverAgain) {

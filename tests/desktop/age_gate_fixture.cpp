@@ -93,6 +93,10 @@ void AgeGateTest::startAgeGate(std::int64_t minimumAge) {
       [this](ViewController& screen) { contacts_.push_back(&screen); }, theme_, privacyLink_,
       termsLink_);
   QTest::qWait(1);
+  // Where there is no window manager, the keyboard comes to a new window a moment later.
+  if (QWidget* shown = QApplication::activeModalWidget()) {
+    EXPECT_TRUE(QTest::qWaitForWindowActive(shown));
+  }
 }
 
 QWidget* AgeGateTest::screenWith(const char* view) {

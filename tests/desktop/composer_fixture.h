@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTest>
 #include <gmock/gmock.h>
 #include <memory>
 #include <optional>
@@ -43,7 +44,8 @@ class ComposerTest : public testing::Test {
     composer_->setMailComposeDelegate(delegate_);
     composer_->addAttachment({"Zm9v", "Text/XML", "Receipt-Data.txt"});
     screen_->presentViewController(composer_, true, nullptr);
-    settle();
+    // Where there is no window manager, the keyboard comes to it a moment later.
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&windowOf(*composer_)));
   }
 
   bool isOpen() const { return isOnScreen(*composer_); }

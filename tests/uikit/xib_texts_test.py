@@ -58,7 +58,7 @@ class XibTexts(unittest.TestCase):
     def test_the_texts(self):
         self.assertEqual(texts_of_xib(Document.load('QV_AgeGateViewController')), {
             'header': 'What’s your date of birth?',
-            'subtitle': 'We only use it to check your age and don’t keep it.',
+            'subtitle': 'Only used to check your age, never kept.',
             'datePicker': 'Date of birth',
             'confirmBtn': 'Confirm',
             'tos': 'Privacy Policy & Terms of Service',

@@ -1,8 +1,10 @@
 #include "qv_commons/platform/desktop/backdrop.h"
 
-#include <QBitmap>
 #include <QEvent>
 #include <QPainter>
+#include <QRegion>
+#include <algorithm>
+#include <cmath>
 
 namespace qv_commons::desktop {
 
@@ -40,19 +42,24 @@ void Backdrop::paint() {
   painter.drawRoundedRect(QRectF(widget_.rect()), radius_, radius_);
 }
 
-// A mask knows no half pixels: it keeps those on the arc, which the paint above has softened.
+// A mask knows no half pixels: it keeps those that the arc touches, which the paint above has
+// softened.
 void Backdrop::clip() {
   if (!clips_ || radius_ <= 0 || widget_.size().isEmpty()) {
     widget_.clearMask();
     return;
   }
-  QBitmap mask(widget_.size());
-  mask.clear();
-  QPainter painter(&mask);
-  painter.setPen(QPen(Qt::color1, 1));
-  painter.setBrush(Qt::color1);
-  painter.drawRoundedRect(mask.rect().adjusted(0, 0, -1, -1), radius_, radius_);
-  painter.end();
+  const int width = widget_.width();
+  const int height = widget_.height();
+  const int rows = std::min(static_cast<int>(radius_), height / 2);
+  QRegion mask(0, rows, width, height - 2 * rows);
+  for (int row = 0; row < rows; ++row) {
+    const double toCentre = radius_ - (row + 1);  // from the row's inner edge
+    const int inset =
+        static_cast<int>(radius_ - std::sqrt(radius_ * radius_ - toCentre * toCentre));
+    mask += QRect(inset, row, width - 2 * inset, 1);
+    mask += QRect(inset, height - 1 - row, width - 2 * inset, 1);
+  }
   widget_.setMask(mask);
 }
 

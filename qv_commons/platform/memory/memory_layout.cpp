@@ -28,7 +28,7 @@ MemoryLayout ageGateLayout() {
   return {
       {"bg", {}},
       {"header", textOf(ViewClass::label, "What’s your date of birth?")},
-      {"subtitle", textOf(ViewClass::label, "We only use it to check your age and don’t keep it.")},
+      {"subtitle", textOf(ViewClass::label, "Only used to check your age, never kept.")},
       {"datePicker", controlWith(ViewClass::datePicker, "onDateChanged:")},
       {"confirmBtn", controlWith(ViewClass::button, "onConfirmPressed:")},
       {"tos", policyText()}};
