@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Sets up, builds and passes every test. ./test.sh --quick leaves out all but the dev preset's tests.
 #
-# QV_LONG_TESTS=1 turns the random and kill tests up from their everyday size.
+# QV_LONG_TESTS=1 turns the random tests up from their everyday size, QV_FUZZ_SECONDS=N the fuzzing.
 set -euo pipefail
 cd "$(dirname "$0")"
 source tools/packages.sh
@@ -39,7 +39,13 @@ if have clang++; then
 
   step "fuzz: the targets on their corpora, then for a while on their own"
   build fuzz
-  run_tests fuzz -L fuzz
+  run_tests fuzz
+  for target in build/fuzz/fuzz/*_fuzz; do
+    name=$(basename "$target" _fuzz)
+    mkdir -p "build/fuzz/found/$name"
+    "$target" -max_total_time="${QV_FUZZ_SECONDS:-5}" -verbosity=0 "build/fuzz/found/$name" "fuzz/corpus/$name"
+    echo "$name: nothing found in ${QV_FUZZ_SECONDS:-5} seconds"
+  done
 fi
 
 step "tidy"

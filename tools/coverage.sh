@@ -6,7 +6,7 @@ cd "$(dirname "$0")/.."
 floor=${1:-90}
 build=build/coverage
 mkdir -p $build
-cmake --preset coverage -DQV_COMMONS_DESKTOP=OFF >$build.log
+cmake --preset coverage >$build.log
 cmake --build --preset coverage >>$build.log
 find $build -name '*.gcda' -delete
 ctest --preset coverage -L 'core|conformance' -j "$(nproc)" --no-tests=error >$build.log

@@ -5,7 +5,9 @@
 #include <QTabWidget>
 #include <QTest>
 #include <gtest/gtest.h>
+#include <optional>
 
+#include "qv_commons/age_gate/age_gate_helper.h"
 #include "qv_commons/platform/desktop/desktop_platform.h"
 #include "qv_commons/view_utils/view_controller_helper.h"
 
@@ -81,6 +83,25 @@ TEST_F(HostControllers, StayOnTopOfTheAlertsTheyShow) {
   ASSERT_NE(dialog, nullptr);
   QTest::keyClick(dialog->windowHandle(), Qt::Key_Return);
   EXPECT_TRUE(QTest::qWaitFor([&] { return page->presentedViewController() == nullptr; }));
+}
+
+TEST(HostsOfAPlatformThatGoes, LetGoOfTheScreensThatKeepThem) {
+  QWidget window;
+  window.show();
+  std::optional<DesktopPlatform> desktop(DesktopSettings{});
+  std::weak_ptr<ViewController> screen;
+  {
+    const ScopedPlatform scope(desktop->platform());
+    const auto host = desktop->viewController(window);
+    QV_AgeGateHelper::startAgeGateProcess(host, 16, nullptr, nullptr,
+                                          QV_AgeGateColorTheme::defaultTheme(), "", "");
+    screen = host->presentedViewController()->retained();
+  }
+  EXPECT_FALSE(screen.expired()) << "the screen and its host keep each other";
+  EXPECT_NE(QApplication::activeModalWidget(), nullptr);
+  desktop.reset();
+  EXPECT_TRUE(screen.expired());
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
 TEST_F(HostControllers, OfAWidgetThatIsGoneShowNothing) {

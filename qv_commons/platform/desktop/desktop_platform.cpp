@@ -4,6 +4,7 @@
 #include <QStackedWidget>
 #include <QTabWidget>
 #include <utility>
+#include <vector>
 
 #include "qv_commons/platform/desktop/desktop_alert.h"
 #include "qv_commons/platform/desktop/desktop_bundle.h"
@@ -22,8 +23,7 @@ namespace qv_commons::desktop {
 struct DesktopPlatform::Parts {
   explicit Parts(SharedContext shared) : context(std::move(shared)) {}
 
-  // What still waits refers to screens, and those to the context.
-  ~Parts() { QCoreApplication::removePostedEvents(&context->transitions); }
+  ~Parts();
 
   SharedContext context;
   DesktopBundles bundles{*context};
@@ -57,6 +57,15 @@ struct DesktopPlatform::Parts {
                     .alerts = alerts,
                     .layoutLoader = layoutLoader};
 };
+
+// A screen may keep the host that shows it, which keeps the screen: taking the screens away lets go
+// of both. What still waits refers to screens, and those to the parts that are about to go.
+DesktopPlatform::Parts::~Parts() {
+  std::vector<std::shared_ptr<ViewController>> hosts;
+  for (const auto& [widget, node] : context->hostNodes) hosts.push_back(node->retained());
+  for (const auto& host : hosts) host->dismissViewController(false, nullptr);
+  QCoreApplication::removePostedEvents(&context->transitions);
+}
 
 DesktopPlatform::DesktopPlatform(DesktopSettings settings) {
   auto context = std::make_shared<DesktopContext>();

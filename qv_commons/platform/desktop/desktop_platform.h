@@ -71,6 +71,8 @@ struct DesktopSettings {
 class DesktopPlatform {
  public:
   explicit DesktopPlatform(DesktopSettings settings);
+
+  // Takes the library's screens off the hosts' windows.
   ~DesktopPlatform();
   DesktopPlatform(const DesktopPlatform&) = delete;
   DesktopPlatform& operator=(const DesktopPlatform&) = delete;
