@@ -2,7 +2,7 @@
 //
 // An adapter derives from `PresentationNode` and says how a screen is shown and hidden:
 //
-//     class Window final : public qv_commons::PresentationNode {
+//     class Window : public qv_commons::PresentationNode {
 //       void show(bool) override { /* put it on the screen */ }
 //       void hide(bool) override { /* take it away */ }
 //       void afterTransition(qv_commons::Completion completion) override { completion(); }

@@ -6,6 +6,7 @@
 #include <cstring>
 
 #include "qv_commons/platform/fatal_error.h"
+#include "qv_commons/time/checked_arithmetic.h"
 #include "qv_commons/time/time_helper.h"
 #include "qv_commons/time/white_space.h"
 
@@ -122,10 +123,9 @@ std::optional<std::int64_t> readInteger(std::string_view text) {
   if (text.empty()) return std::nullopt;
   std::int64_t value = 0;
   for (const char c : text) {
-    const unsigned digit = digitOf(c);
-    if (digit > 9 || __builtin_mul_overflow(value, 10, &value)) return std::nullopt;
-    if (negative ? __builtin_sub_overflow(value, digit, &value)
-                 : __builtin_add_overflow(value, digit, &value)) {
+    const auto digit = static_cast<int>(digitOf(c));
+    if (digit > 9 || !multiplyChecked(value, 10, value) ||
+        !addChecked(value, negative ? -digit : digit, value)) {
       return std::nullopt;
     }
   }
@@ -149,12 +149,9 @@ std::optional<std::int64_t> readLastFieldOrZero(std::string_view& text) {
 // would not.
 std::optional<std::int64_t> sumOf(std::int64_t seconds, std::int64_t minutes, std::int64_t hours) {
   std::int64_t sum = 0;
-  if (__builtin_mul_overflow(minutes, 60, &minutes) ||
-      __builtin_add_overflow(seconds, minutes, &sum) ||
-      __builtin_mul_overflow(hours, 3600, &hours) || __builtin_add_overflow(sum, hours, &sum)) {
-    return std::nullopt;
-  }
-  return sum;
+  const bool fits = multiplyChecked(minutes, 60, minutes) && addChecked(seconds, minutes, sum) &&
+                    multiplyChecked(hours, 3600, hours) && addChecked(sum, hours, sum);
+  return fits ? std::optional(sum) : std::nullopt;
 }
 
 // `text` up to the first full stop in its last field.

@@ -7,6 +7,7 @@
 // Any thread. Only the two clock operations ask the platform; all others are pure.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -16,7 +17,7 @@ namespace qv_commons {
 
 // The platform's plain integer: 64 bits wide, as `std::int64_t` is, though on some systems another
 // type.
-using PlatformInteger = long;
+using PlatformInteger = std::ptrdiff_t;
 static_assert(sizeof(PlatformInteger) == 8);
 
 class QV_TimeHelper {

@@ -1,11 +1,11 @@
 // A test in which a mail composer is open over a host's window.
 #pragma once
 
+#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QTest>
 #include <gmock/gmock.h>
 #include <memory>
 #include <optional>
@@ -45,7 +45,9 @@ class ComposerTest : public testing::Test {
     composer_->addAttachment({"Zm9v", "Text/XML", "Receipt-Data.txt"});
     screen_->presentViewController(composer_, true, nullptr);
     // Where there is no window manager, the keyboard comes to it a moment later.
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&windowOf(*composer_)));
+    ASSERT_TRUE(waitUntil([&] {
+      return windowOf(*composer_).isActiveWindow() && QApplication::focusWidget() != nullptr;
+    }));
   }
 
   bool isOpen() const { return isOnScreen(*composer_); }
