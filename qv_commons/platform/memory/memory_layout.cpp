@@ -25,13 +25,12 @@ ViewLayout policyText() {
 }  // namespace
 
 MemoryLayout ageGateLayout() {
-  return {
-      {"bg", {}},
-      {"header", textOf(ViewClass::label, "What’s your date of birth?")},
-      {"subtitle", textOf(ViewClass::label, "Only used to check your age, never kept.")},
-      {"datePicker", controlWith(ViewClass::datePicker, "onDateChanged:")},
-      {"confirmBtn", controlWith(ViewClass::button, "onConfirmPressed:")},
-      {"tos", policyText()}};
+  return {{"bg", {}},
+          {"header", textOf(ViewClass::label, "What’s your date of birth?")},
+          {"subtitle", textOf(ViewClass::label, "Only used to check your age, never kept.")},
+          {"datePicker", controlWith(ViewClass::datePicker, "onDateChanged:")},
+          {"confirmBtn", controlWith(ViewClass::button, "onConfirmPressed:")},
+          {"tos", policyText()}};
 }
 
 MemoryLayout ageGateRefusedLayout() {
