@@ -1,5 +1,7 @@
 #include "qv_commons/age_gate/age_gate_color_theme.h"
 
+#include <utility>
+
 namespace qv_commons {
 namespace {
 
@@ -12,14 +14,13 @@ constexpr double kBlack = 0;
 
 }  // namespace
 
-QV_AgeGateColorTheme::QV_AgeGateColorTheme(const Color& background, const Color& buttonBackground,
-                                           const Color& buttonText, const Color& text,
-                                           const Color& policiesText)
-    : buttonBGColor(buttonBackground),
-      buttonTextColor(buttonText),
-      backgroundColor(background),
-      textColor(text),
-      policiesTextColor(policiesText) {}
+QV_AgeGateColorTheme::QV_AgeGateColorTheme(Color background, Color buttonBackground,
+                                           Color buttonText, Color text, Color policiesText)
+    : buttonBGColor(std::move(buttonBackground)),
+      buttonTextColor(std::move(buttonText)),
+      backgroundColor(std::move(background)),
+      textColor(std::move(text)),
+      policiesTextColor(std::move(policiesText)) {}
 
 std::shared_ptr<QV_AgeGateColorTheme> QV_AgeGateColorTheme::defaultTheme() {
   return defaultThemeOf(currentPlatform());

@@ -172,7 +172,7 @@ class Mistakes(unittest.TestCase):
                        '<variation')
 
     def test_a_fixed_height_clips(self):
-        weak = 'verticalCompressionResistancePriority="1000" text="We only'
+        weak = 'verticalCompressionResistancePriority="1000" text="Only used'
         text = read(GATE).replace(weak, weak.replace('1000', '750')).replace(
             '<constraint firstItem="subtitle" firstAttribute="leading"',
             '<constraint firstItem="subtitle" firstAttribute="height" constant="20" id="fixed"/>'

@@ -93,7 +93,7 @@ QString LinkTextView::linkNear(const QPoint& place) const {
     for (int along = -distance; along <= distance; along += kStep) {
       for (const QPoint& offset : {QPoint(along, -distance), QPoint(along, distance),
                                    QPoint(-distance, along), QPoint(distance, along)}) {
-        const QString link = anchorAt(place + offset);
+        QString link = anchorAt(place + offset);
         if (!link.isEmpty()) return link;
       }
     }

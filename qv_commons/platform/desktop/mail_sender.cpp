@@ -1,7 +1,7 @@
 #include "qv_commons/platform/desktop/mail_sender.h"
 
 #include <QStandardPaths>
-#include <signal.h>
+#include <csignal>
 #include <sysexits.h>
 #include <unistd.h>
 #include <utility>
@@ -42,7 +42,7 @@ std::string complaint(QProcess& process) {
 
 QString findMailProgram(const std::string& program) {
   if (!program.empty()) return QStandardPaths::findExecutable(fromUtf8(program));
-  const QString inPath = QStandardPaths::findExecutable("sendmail");
+  QString inPath = QStandardPaths::findExecutable("sendmail");
   if (!inPath.isEmpty()) return inPath;
   return QStandardPaths::findExecutable("sendmail", {"/usr/sbin", "/usr/lib"});
 }

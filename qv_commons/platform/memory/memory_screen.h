@@ -64,7 +64,7 @@ class MemoryScreen final : public MemoryNode {
   void connect(const Outlet& outlet);
   void trigger(std::string_view view);
   View* findView(std::string_view name) const;
-  [[noreturn]] void failWithoutView(std::string_view name) const;
+  [[noreturn]] void failWithoutView(std::string_view view) const;
   void show(bool) override { load(); }
 
   Application& application_;

@@ -30,7 +30,10 @@ class MemoryAttributedString final : public AttributedString {
   // `name` stands for the text in the record's lines.
   MemoryAttributedString(Record& record, std::string name, std::u16string text,
                          std::optional<Color> foreground)
-      : record_(&record), name_(std::move(name)), text_(std::move(text)), foreground_(foreground) {}
+      : record_(&record),
+        name_(std::move(name)),
+        text_(std::move(text)),
+        foreground_(std::move(foreground)) {}
 
   const std::u16string& text() const { return text_; }
   const std::vector<Link>& links() const {
