@@ -85,7 +85,7 @@ std::string anyText(std::int64_t seconds) {
   out = writeSignedPair(out, fields.minutes);
   *out++ = ':';
   out = writeSignedPair(out, fields.seconds);
-  return std::string(buffer.data(), out);
+  return {buffer.data(), out};
 }
 
 // Above 9 for every other character.
