@@ -52,4 +52,4 @@ step "tidy"
 if have clang-tidy; then tools/tidy.sh; fi
 
 step "coverage of the core"
-if have gcovr || have lcov; then tools/coverage.sh; fi
+if have lcov; then tools/coverage.sh; fi
