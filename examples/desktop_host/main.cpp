@@ -13,6 +13,15 @@ bool displayIsThere() {
   return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
 }
 
+QtMessageHandler printMessage = nullptr;
+
+// Two things that Qt says at every start without a display, and that nobody can do anything about.
+void printWhatMatters(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+  const bool isNoise = message.contains("propagateSizeHints") ||
+                       message.startsWith("QStandardPaths: XDG_RUNTIME_DIR not set");
+  if (!isNoise) printMessage(type, context, message);
+}
+
 qv_commons::desktop::DesktopSettings settingsFor(const host::Options& options) {
   qv_commons::desktop::DesktopSettings settings;
   settings.bundleDirectory = options.bundleDirectory.toStdString();
@@ -34,6 +43,7 @@ int main(int argc, char** argv) {
   if (!displayIsThere() && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
   }
+  printMessage = qInstallMessageHandler(printWhatMatters);
   QApplication application(argc, argv);
   QCoreApplication::setApplicationName("qv-commons-desktop-host");
 
