@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QProcess>
 #include <QTimeZone>
+#include <algorithm>
 
 #include "qv_commons/platform/desktop/wheel.h"
 #include "qv_commons/platform/desktop/wheel_date_picker.h"
@@ -55,19 +56,22 @@ QWidget* screenWith(const char* view) {
   return window != nullptr && window->findChild<QWidget*>(view) != nullptr ? window : nullptr;
 }
 
-// As a user of the wheels would: the year first, since it may shorten the month.
+// As a user of the wheels would: the year first, since it may shorten the month. A date that is out
+// of reach gives the end of each wheel that lies nearest.
 void pick(Stage& stage, QWidget& gate, const QDate& date) {
   const auto* picker = gate.findChild<WheelDatePicker*>();
   const auto turn = [&](DateField field, int number) {
     for (Wheel* wheel : picker->wheels()) {
-      if (wheel->field() == field) wheel->turnToNumber(number);
+      if (wheel->field() != field) continue;
+      wheel->turnToNumber(std::clamp(number, wheel->lowestNumber(), wheel->highestNumber()));
     }
   };
   turn(DateField::year, date.year());
   turn(DateField::month, date.month());
   turn(DateField::day, date.day());
   const QDate picked = QDateTime::fromSecsSinceEpoch(static_cast<qint64>(picker->date())).date();
-  stage.note("picked: " + picked.toString(Qt::ISODate));
+  stage.note("picked: " + picked.toString(Qt::ISODate) +
+             (picked == date ? "" : ", the wheels do not reach " + date.toString(Qt::ISODate)));
 }
 
 void confirm(Stage& stage, Session& session, QWidget& gate, const Options& options) {

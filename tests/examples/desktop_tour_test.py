@@ -128,6 +128,13 @@ class DesktopTour(unittest.TestCase):
                 self.assertEqual(starts(pathlib.Path(out, "transcript.txt").read_text()),
                                  ["asked", outcome, outcome], (date, minimum))
 
+    def test_says_where_the_wheels_do_not_reach_and_goes_to_their_end(self):
+        for date, minimum, outcome in (("1700-05-05", 100, "allowed"), ("2500-05-05", 1, "refused")):
+            with tempfile.TemporaryDirectory() as out:
+                said = run("--tour", out, "--birth-date", date, "--minimum-age", str(minimum)).stdout
+                self.assertIn(f", the wheels do not reach {date}\n", said)
+                self.assertEqual(starts(said), ["asked", outcome, outcome], date)
+
     def test_keeps_a_refusal_in_the_data_folder_it_is_given(self):
         with tempfile.TemporaryDirectory() as scratch:
             arguments = ("--tour", scratch + "/out", "--data", scratch + "/data", "--birth-date")
