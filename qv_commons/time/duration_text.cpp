@@ -7,6 +7,7 @@
 
 #include "qv_commons/platform/fatal_error.h"
 #include "qv_commons/time/checked_arithmetic.h"
+#include "qv_commons/time/clock_text.h"
 #include "qv_commons/time/time_helper.h"
 #include "qv_commons/time/white_space.h"
 
@@ -52,28 +53,44 @@ char* writeSignedPair(char* out, int value) {
   return out;
 }
 
+// The hour count and its colon, as they open the text; nothing for no hours.
+struct HoursText {
+  char text[3];
+  std::uint8_t size;
+};
+
+constexpr std::array<HoursText, 100> makeHours() {
+  std::array<HoursText, 100> hours{};
+  for (std::size_t value = 1; value < 100; ++value) {
+    HoursText& entry = hours[value];
+    if (value > 9) entry.text[entry.size++] = kPairs[2 * value];
+    entry.text[entry.size++] = kPairs[2 * value + 1];
+    entry.text[entry.size++] = ':';
+  }
+  return hours;
+}
+
+constexpr std::array<HoursText, 100> kHours = makeHours();
+
 // The text of most durations: those of less than 100 hours that are not negative. It is cut from a
-// string of a fixed size, which is faster than making one of a size the compiler does not know.
+// string of a fixed size, which is faster than making one of a size that the compiler does not
+// know, and has no branch, because one on the number of hours would often be predicted wrongly.
 std::string everydayText(unsigned seconds) {
   const unsigned minutes = seconds / 60;
-  const unsigned hours = minutes / 60;
+  const unsigned hours = seconds / 3600;
   std::string text("00:00:00");
-  char* out = text.data();
-  if (hours > 9) {
-    out = writePair(out, hours);
-    *out++ = ':';
-  } else if (hours > 0) {
-    *out++ = static_cast<char>('0' + hours);
-    *out++ = ':';
-  }
-  out = writePair(out, minutes % 60);
-  *out++ = ':';
-  out = writePair(out, seconds % 60);
-  text.erase(static_cast<std::size_t>(out - text.data()));
+  auto out = text.begin();
+  std::memcpy(&*out, kHours[hours].text, 3);
+  out += kHours[hours].size;
+  writePair(&*out, minutes - 60 * hours);
+  out[2] = ':';
+  writePair(&out[3], seconds - 60 * minutes);
+  text.erase(out + 5, text.end());
   return text;
 }
 
-std::string anyText(std::int64_t seconds) {
+// Out of line, for the same reason as `readUnusualTextOrStop`.
+[[gnu::noinline]] std::string anyText(std::int64_t seconds) {
   constexpr std::string_view kLongest = "-2147483648:-59:-59";
   const Fields fields = fieldsOf(seconds);
   std::array<char, kLongest.size()> buffer;
@@ -91,29 +108,6 @@ std::string anyText(std::int64_t seconds) {
 // Above 9 for every other character.
 unsigned digitOf(char c) {
   return static_cast<unsigned char>(c - '0');
-}
-
-// Reads "mm:ss", "h:mm:ss" and "hh:mm:ss", the texts of `everydayText`, straight from their places.
-// -1 for other texts, which may be durations all the same.
-int readEverydayText(std::string_view text) {
-  const std::size_t size = text.size();
-  if (size != 5 && size != 7 && size != 8) return -1;
-  bool valid = true;
-  const auto digit = [&](std::size_t place) {
-    const int value = static_cast<int>(digitOf(text[place]));
-    valid &= value <= 9;
-    return value;
-  };
-  const auto pair = [&](std::size_t place) { return 10 * digit(place) + digit(place + 1); };
-  const auto colon = [&](std::size_t place) { valid &= text[place] == ':'; };
-
-  int total = 60 * pair(size - 5) + pair(size - 2);
-  colon(size - 3);
-  if (size > 5) {
-    total += 3600 * (size == 8 ? pair(0) : digit(0));
-    colon(size - 6);
-  }
-  return valid ? total : -1;
 }
 
 // An optional sign and digits, nothing else, within 64 bits.
@@ -156,7 +150,11 @@ std::optional<std::int64_t> sumOf(std::int64_t seconds, std::int64_t minutes, st
 
 // `text` up to the first full stop in its last field.
 std::string_view withoutFraction(std::string_view text) {
-  return text.substr(0, text.find('.', text.rfind(':') + 1));
+  std::size_t size = text.size();
+  for (std::size_t i = size; i > 0 && text[i - 1] != ':'; --i) {
+    if (text[i - 1] == '.') size = i - 1;
+  }
+  return text.substr(0, size);
 }
 
 std::optional<std::int64_t> readAnyText(std::string_view text) {
@@ -169,22 +167,28 @@ std::optional<std::int64_t> readAnyText(std::string_view text) {
   return sumOf(*seconds, *minutes, *hours);
 }
 
-// Gives the seconds of `text` and true, or false. Not a std::optional: g++ hands those out through
-// memory, in two pieces written and one read, which takes longer than the reading of most texts.
-// Out of line, so that `tryHmsToSeconds` is small enough to be inlined in `hmsToSeconds`.
-[[gnu::noinline]] bool readDuration(std::string_view text, std::int64_t& seconds) {
-  seconds = readEverydayText(text);
-  if (seconds >= 0) return true;
+// Not a std::optional: g++ puts one together in memory, in two pieces, and reads it back in one,
+// which takes longer than the reading itself.
+struct Reading {
+  std::int64_t seconds;
+  bool valid;
+};
+
+Reading readUnusualText(std::string_view text) {
   text = trimmed(text);
-  seconds = readEverydayText(withoutFraction(text));
-  if (seconds >= 0) return true;
+  const int seconds = readClockText(withoutFraction(text));
+  if (seconds >= 0) return {seconds, true};
   const std::optional<std::int64_t> any = readAnyText(text);
-  seconds = any.value_or(0);
-  return any.has_value();
+  return {any.value_or(0), any.has_value()};
 }
 
-[[noreturn]] void stopAt(std::string_view text) {
-  fatalError("QV_TimeHelper: hmsToSeconds can't read \"" + std::string(text) + "\"");
+// Out of line, so that the way of most texts needs no stack.
+[[gnu::noinline]] std::int64_t readUnusualTextOrStop(std::string_view text) {
+  const Reading reading = readUnusualText(text);
+  if (!reading.valid) {
+    fatalError("QV_TimeHelper: hmsToSeconds can't read \"" + std::string(text) + "\"");
+  }
+  return reading.seconds;
 }
 
 }  // namespace
@@ -202,15 +206,14 @@ std::string QV_TimeHelper::secondsToHmsDigits(std::int64_t seconds) {
 }
 
 std::optional<std::int64_t> QV_TimeHelper::tryHmsToSeconds(std::string_view text) {
-  std::int64_t seconds = 0;
-  if (!readDuration(text, seconds)) return std::nullopt;
-  return seconds;
+  const int seconds = readClockText(text);
+  const Reading reading = seconds >= 0 ? Reading{seconds, true} : readUnusualText(text);
+  return reading.valid ? std::optional(reading.seconds) : std::nullopt;
 }
 
 std::int64_t QV_TimeHelper::hmsToSeconds(std::string_view text) {
-  const std::optional<std::int64_t> seconds = tryHmsToSeconds(text);
-  if (!seconds) stopAt(text);
-  return *seconds;
+  const int seconds = readClockText(text);
+  return seconds >= 0 ? seconds : readUnusualTextOrStop(text);
 }
 
 }  // namespace qv_commons

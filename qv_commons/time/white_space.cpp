@@ -4,7 +4,7 @@
 #include <array>
 #include <cstddef>
 
-namespace qv_commons {
+namespace qv_commons::white_space {
 namespace {
 
 // All white space beyond ASCII. No encoded character ends in another one, so that looking at the
@@ -13,14 +13,6 @@ constexpr std::array<std::string_view, 19> kWide = {
     "\u0085", "\u00A0", "\u1680", "\u2000", "\u2001", "\u2002", "\u2003",
     "\u2004", "\u2005", "\u2006", "\u2007", "\u2008", "\u2009", "\u200A",
     "\u2028", "\u2029", "\u202F", "\u205F", "\u3000"};
-
-bool isPlain(char c) {
-  return c == ' ' || (c >= '\t' && c <= '\r');
-}
-
-bool isASCII(char c) {
-  return static_cast<unsigned char>(c) < 0x80;
-}
 
 // The bytes of the white space that `text`, which is not empty, begins or ends with; else 0.
 std::size_t sizeAtStart(std::string_view text) {
@@ -39,7 +31,7 @@ std::size_t sizeAtEnd(std::string_view text) {
 
 }  // namespace
 
-std::string_view trimmed(std::string_view text) {
+std::string_view trimmedOfAll(std::string_view text) {
   while (!text.empty()) {
     const std::size_t size = sizeAtStart(text);
     if (size == 0) break;
@@ -53,4 +45,4 @@ std::string_view trimmed(std::string_view text) {
   return text;
 }
 
-}  // namespace qv_commons
+}  // namespace qv_commons::white_space

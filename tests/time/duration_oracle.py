@@ -58,6 +58,15 @@ def read(text):
         return "none"
 
 
+def clock_texts_with_one_byte_changed():
+    whole = "12:34:56"
+    for text in [whole[start:] for start in range(8)] + ["1" + whole, whole + "7", whole + ".7", " " + whole[3:]]:
+        for place in range(len(text)):
+            for byte in range(256):
+                changed = text[:place] + bytes([byte]).decode("utf-8", "surrogateescape") + text[place + 1:]
+                yield "r", changed, read(changed)
+
+
 def cases(chance):
     durations = [MIN, MAX, 0]
     for power in range(63):
@@ -69,6 +78,7 @@ def cases(chance):
         yield "w", str(s), written(s)
         yield "d", str(s), digits(s)
         yield "r", written(s), read(written(s))
+    yield from clock_texts_with_one_byte_changed()
     for _ in range(40000):
         text = "".join(chance.choices(ATOMS, k=chance.randrange(9)))
         yield "r", text, read(text)
@@ -76,7 +86,7 @@ def cases(chance):
 
 def main():
     table = list(cases(random.Random(1)))
-    questions = "".join(kind + text.encode().hex() + "\n" for kind, text, _ in table)
+    questions = "".join(kind + text.encode("utf-8", "surrogateescape").hex() + "\n" for kind, text, _ in table)
     answers = subprocess.run(sys.argv[1:], input=questions, capture_output=True, text=True, check=True).stdout.split("\n")
     wrong = [(case, answer) for case, answer in zip(table, answers) if case[2] != answer]
     for (kind, text, expected), answer in wrong[:20]:
