@@ -1,6 +1,9 @@
 #include "qv_commons/support/base64.h"
 
 #include <gtest/gtest.h>
+#include <openssl/evp.h>
+#include <random>
+#include <vector>
 
 #include "tests/support_code/allocation_counter.h"
 
@@ -37,6 +40,22 @@ TEST(Base64, TakesEveryByteAsItIs) {
 TEST(Base64, BreaksNoLines) {
   const std::string text = base64Encoded(std::string(300, '\0'));
   EXPECT_EQ(text, std::string(400, 'A'));
+}
+
+std::string byOpenSSL(const std::vector<unsigned char>& bytes) {
+  std::vector<unsigned char> text(4 * ((bytes.size() + 2) / 3) + 1);
+  const int size = EVP_EncodeBlock(text.data(), bytes.data(), static_cast<int>(bytes.size()));
+  return {text.begin(), text.begin() + size};
+}
+
+// Each size has a heap block of its own, so that AddressSanitizer sees a byte read beyond its end.
+TEST(Base64, AgreesWithOpenSSLAtEverySize) {
+  std::mt19937 random(64);
+  for (std::size_t size = 0; size < 300; ++size) {
+    std::vector<unsigned char> bytes(size);
+    for (unsigned char& byte : bytes) byte = static_cast<unsigned char>(random());
+    EXPECT_EQ(base64Encoded({reinterpret_cast<const char*>(bytes.data()), size}), byOpenSSL(bytes));
+  }
 }
 
 TEST(Base64, AllocatesItsResultAndNothingElse) {
