@@ -20,16 +20,19 @@ class DecimalText {
  public:
   explicit DecimalText(double value) { write(value); }
 
-  std::string_view view() const { return {buffer_.data(), size_}; }
+  std::string_view view() const { return {buffer_.data() + begin_, end_ - begin_}; }
 
  private:
   void write(double value);
+  bool writeThousandths(double value);
+  void writeAny(double value);
   void append(std::string_view text);
   void appendZeros(std::size_t count);
 
   // The longest text, of the smallest numbers: "-0.", 323 zeros and 17 digits.
   std::array<char, 344> buffer_;
-  std::size_t size_ = 0;
+  std::size_t begin_ = 0;
+  std::size_t end_ = 0;
 };
 
 }  // namespace qv_commons

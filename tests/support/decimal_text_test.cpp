@@ -25,6 +25,10 @@ TEST(DecimalText, WritesScreenSizes) {
   EXPECT_EQ(text(1179.667), "1179.667");
   EXPECT_EQ(text(414.125), "414.125");
   EXPECT_EQ(text(1e4), "10000.0");
+  EXPECT_EQ(text(9999.999), "9999.999");
+  EXPECT_EQ(text(9999.9999), "9999.9999");
+  EXPECT_EQ(text(0.001), "0.001");
+  EXPECT_EQ(text(0.0005), "0.0005");
 }
 
 TEST(DecimalText, AlwaysHasAFraction) {
@@ -96,9 +100,13 @@ void expectShortest(double value) {
   ASSERT_EQ(digitsOf(own), digitsOf({buffer, static_cast<std::size_t>(end - buffer)})) << own;
 }
 
-long randomCases() {
+bool isLongRun() {
   const char* longRun = std::getenv("QV_LONG_TESTS");
-  return longRun != nullptr && *longRun == '1' ? 100'000'000 : 1'000'000;
+  return longRun != nullptr && *longRun == '1';
+}
+
+long randomCases() {
+  return isLongRun() ? 100'000'000 : 1'000'000;
 }
 
 TEST(DecimalText, AgreesWithTheLibraryOnRandomDoubles) {
@@ -108,6 +116,17 @@ TEST(DecimalText, AgreesWithTheLibraryOnRandomDoubles) {
     if (!std::isfinite(value)) continue;
     expectShortest(value);
     if (HasFatalFailure()) return;
+  }
+}
+
+// Up to where sizes have four digits before the point, and beyond; in a long run all of them.
+TEST(DecimalText, AgreesWithTheLibraryOnThousandthsAndBesideThem) {
+  for (int thousandths = 1; thousandths < 10'010'000; thousandths += isLongRun() ? 1 : 37) {
+    const double value = thousandths / 1000.0;
+    for (double near : {std::nextafter(value, 0), value, std::nextafter(value, INFINITY)}) {
+      expectShortest(near);
+      if (HasFatalFailure()) return;
+    }
   }
 }
 
