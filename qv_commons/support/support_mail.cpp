@@ -1,6 +1,7 @@
 #include "qv_commons/support/support_mail.h"
 
-#include <array>
+#include <algorithm>
+#include <cstddef>
 
 #include "qv_commons/support/base64.h"
 #include "qv_commons/support/decimal_text.h"
@@ -10,53 +11,57 @@ namespace {
 
 constexpr std::string_view kSeparator = ", ";
 
-std::size_t joinedSize(std::span<const std::string> texts) {
-  std::size_t size = texts.empty() ? 0 : (texts.size() - 1) * kSeparator.size();
-  for (const std::string& text : texts) size += text.size();
+// The texts with separators between them.
+struct Joined {
+  std::span<const std::string> texts;
+};
+
+std::size_t sizeOf(std::string_view text) {
+  return text.size();
+}
+
+std::size_t sizeOf(Joined list) {
+  std::size_t size = list.texts.empty() ? 0 : (list.texts.size() - 1) * kSeparator.size();
+  for (const std::string& text : list.texts) size += text.size();
   return size;
 }
 
-void appendJoined(std::string& target, std::span<const std::string> texts) {
-  for (const std::string& text : texts) {
-    if (&text != texts.data()) target.append(kSeparator);
-    target.append(text);
+// Each of these writes at `out` and gives the end.
+
+char* write(char* out, std::string_view text) {
+  return std::copy(text.begin(), text.end(), out);
+}
+
+char* write(char* out, Joined list) {
+  for (const std::string& text : list.texts) {
+    if (&text != list.texts.data()) out = write(out, kSeparator);
+    out = write(out, text);
   }
+  return out;
+}
+
+// One after the other, in one allocation. Where a piece is a literal, the compiler knows its size
+// and copies it without a call.
+template <class... Pieces>
+std::string concatenated(const Pieces&... pieces) {
+  std::string text((sizeOf(pieces) + ...), '\0');
+  char* out = text.data();
+  ((out = write(out, pieces)), ...);
+  return text;
 }
 
 }  // namespace
 
 std::string supportMailBody(const SupportMailInputs& inputs) {
+  const std::string_view question = "Reason for contacting support:";
   const DecimalText width(inputs.screenSize.width);
   const DecimalText height(inputs.screenSize.height);
-  const std::array<std::string_view, 18> beforePurchases = {
-      inputs.openingMessage.value_or("Reason for contacting support:"),
-      "\n\n\n\n\n\n\n\n\nApp ID: ",
-      inputs.appId,
-      "\nDevice: ",
-      inputs.localizedModel,
-      " os:  ",
-      inputs.systemVersion,
-      " size: ",
-      width.view(),
-      "x",
-      height.view(),
-      " locale: ",
-      inputs.preferredLanguage,
-      "\nApp version: ",
-      inputs.appVersion,
-      "\nIAP: ",
-      inputs.purchases.empty() ? "No" : "Yes",
-      " "};
-  const std::string_view metadata = inputs.additionalMetadata.value_or("");
-
-  std::size_t size = joinedSize(inputs.purchases) + 1 + metadata.size();
-  for (std::string_view piece : beforePurchases) size += piece.size();
-  std::string body;
-  body.reserve(size);
-  for (std::string_view piece : beforePurchases) body.append(piece);
-  appendJoined(body, inputs.purchases);
-  body.append("\n").append(metadata);
-  return body;
+  return concatenated(
+      inputs.openingMessage.value_or(question), "\n\n\n\n\n\n\n\n\nApp ID: ", inputs.appId,
+      "\nDevice: ", inputs.localizedModel, " os:  ", inputs.systemVersion, " size: ", width.view(),
+      "x", height.view(), " locale: ", inputs.preferredLanguage,
+      "\nApp version: ", inputs.appVersion, "\nIAP: ", inputs.purchases.empty() ? "No " : "Yes ",
+      Joined{inputs.purchases}, "\n", inputs.additionalMetadata.value_or(""));
 }
 
 MailAttachment supportMailAttachment(std::string_view receipt) {
