@@ -15,27 +15,13 @@
 
 #include "qv_commons/view_utils/view_controller_helper.h"
 
+#include "tests/support_code/chain_link.h"
+
 namespace {
 
 using namespace qv_commons;
 
-class Link : public NativeViewController {
- public:
-  Link* next = nullptr;
-  mutable ViewController controller{*this};
-
-  void presentViewController(std::shared_ptr<ViewController>, bool, Completion) override {}
-  void dismissViewController(bool, Completion) override {}
-  void setModalInPresentation(bool) override {}
-  void setOverrideUserInterfaceStyle(UserInterfaceStyle) override {}
-  std::shared_ptr<ViewController> retained() override { return nullptr; }
-  ViewController* presentedViewController() const override {
-    return next == nullptr ? nullptr : &next->controller;
-  }
-  ViewController* presentingViewController() const override { return nullptr; }
-  ViewControllerKind kind() const override { return ViewControllerKind::plain; }
-  ViewController* childViewController() const override { return nullptr; }
-};
+using Link = test::ChainLink;
 
 // Kinds of which the chain has none.
 class Navigation : public Link {};
@@ -63,8 +49,8 @@ ViewController* byDynamicCast(ViewController* controller) {
 
 ViewController* byRawChase(ViewController* controller) {
   auto* link = static_cast<Link*>(&controller->native());
-  while (link->next != nullptr) link = link->next;
-  return &link->controller;
+  while (link->next() != nullptr) link = link->next();
+  return link->controller();
 }
 
 // The controllers lie in memory in the order of the chain, or in any order.
@@ -74,9 +60,9 @@ void chase(benchmark::State& state, ViewController* (*walk)(ViewController*), bo
   std::iota(order.begin(), order.end(), std::size_t{0});
   if (!inOrder) std::shuffle(order.begin(), order.end(), std::mt19937_64(1));
   const auto links = std::make_unique<Link[]>(count);
-  for (std::size_t i = 0; i + 1 < count; ++i) links[order[i]].next = &links[order[i + 1]];
+  for (std::size_t i = 0; i + 1 < count; ++i) links[order[i]].present(links[order[i + 1]]);
 
-  for (auto _ : state) benchmark::DoNotOptimize(walk(&links[order[0]].controller));
+  for (auto _ : state) benchmark::DoNotOptimize(walk(links[order[0]].controller()));
   state.counters["per controller"] =
       benchmark::Counter(static_cast<double>(count), benchmark::Counter::kIsIterationInvariantRate |
                                                          benchmark::Counter::kInvert);

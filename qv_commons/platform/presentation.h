@@ -22,6 +22,7 @@ namespace qv_commons {
 class PresentationNode : public NativeViewController,
                          public std::enable_shared_from_this<PresentationNode> {
  public:
+  using NativeViewController::NativeViewController;
   ~PresentationNode() override;
 
   // Presenting over a controller that presents something already puts the new one on top of that;

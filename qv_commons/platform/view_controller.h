@@ -31,7 +31,12 @@ enum class ViewControllerKind : std::uint8_t { plain, navigation, tabBar, alert 
 // What an adapter implements for each controller.
 class NativeViewController {
  public:
+  explicit NativeViewController(ViewControllerKind kind = ViewControllerKind::plain)
+      : kind_(kind) {}
   virtual ~NativeViewController() = default;
+
+  // Not virtual, because it never changes and every look-up asks each controller on its way for it.
+  ViewControllerKind kind() const { return kind_; }
 
   // Shows `controller` over this one and keeps it alive while it is shown; runs `completion`, if
   // present, once it is on the screen.
@@ -53,14 +58,15 @@ class NativeViewController {
   virtual ViewController* presentedViewController() const = 0;
   virtual ViewController* presentingViewController() const = 0;
 
-  virtual ViewControllerKind kind() const = 0;
-
   // A reference that keeps this controller and its native alive, for as long as it is held.
   virtual std::shared_ptr<ViewController> retained() = 0;
 
   // A navigation controller's visible controller, a tab bar controller's selected one; null where
   // there is none, and for every other kind.
   virtual ViewController* childViewController() const = 0;
+
+ private:
+  const ViewControllerKind kind_;
 };
 
 // Each operation does what the operation of the same name above says.

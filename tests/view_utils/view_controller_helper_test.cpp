@@ -14,6 +14,7 @@
 #include "qv_commons/view_utils/top_view_controller.h"
 
 #include "tests/support_code/allocation_counter.h"
+#include "tests/support_code/chain_link.h"
 
 namespace qv_commons {
 namespace {
@@ -26,7 +27,7 @@ using Questions = std::vector<std::string>;
 class Asked final : public NativeViewController {
  public:
   Asked(Questions& questions, std::string name, Kind kind = Kind::plain)
-      : questions_(questions), name_(std::move(name)), kind_(kind) {}
+      : NativeViewController(kind), questions_(questions), name_(std::move(name)) {}
 
   operator ViewController*() const { return &controller_; }
 
@@ -46,7 +47,6 @@ class Asked final : public NativeViewController {
   ViewController* presentingViewController() const override {
     return note(".presenting", presenting);
   }
-  Kind kind() const override { return note(".kind", kind_); }
   ViewController* childViewController() const override { return note(".child", child); }
 
  private:
@@ -60,7 +60,6 @@ class Asked final : public NativeViewController {
 
   Questions& questions_;
   std::string name_;
-  Kind kind_;
   mutable ViewController controller_{*this};
 };
 
@@ -86,47 +85,44 @@ TEST_F(TopViewController, OfAPlainOneIsItself) {
   plain.presenting = other;
   plain.child = other;
   EXPECT_EQ(topOf(plain), plain);
-  EXPECT_THAT(questions, ElementsAre("plain.kind", "plain.presented"));
+  EXPECT_THAT(questions, ElementsAre("plain.presented"));
 }
 
 TEST_F(TopViewController, FollowsWhatAPlainOnePresents) {
   plain.presented = other;
   EXPECT_EQ(topOf(plain), other);
-  EXPECT_THAT(questions,
-              ElementsAre("plain.kind", "plain.presented", "other.kind", "other.presented"));
+  EXPECT_THAT(questions, ElementsAre("plain.presented", "other.presented"));
 }
 
 TEST_F(TopViewController, FollowsTheVisibleOneAndNotWhatTheNavigationPresents) {
   navigation.child = plain;
   navigation.presented = other;
   EXPECT_EQ(topOf(navigation), plain);
-  EXPECT_THAT(questions,
-              ElementsAre("navigation.kind", "navigation.child", "plain.kind", "plain.presented"));
+  EXPECT_THAT(questions, ElementsAre("navigation.child", "plain.presented"));
 }
 
 TEST_F(TopViewController, OfANavigationThatShowsNothingIsNothingWhateverItPresents) {
   navigation.presented = other;
   EXPECT_EQ(topOf(navigation), nullptr);
-  EXPECT_THAT(questions, ElementsAre("navigation.kind", "navigation.child"));
+  EXPECT_THAT(questions, ElementsAre("navigation.child"));
 }
 
 TEST_F(TopViewController, FollowsTheSelectedTabAndNotWhatTheTabsPresent) {
   tabs.child = plain;
   tabs.presented = other;
   EXPECT_EQ(topOf(tabs), plain);
-  EXPECT_THAT(questions, ElementsAre("tabs.kind", "tabs.child", "plain.kind", "plain.presented"));
+  EXPECT_THAT(questions, ElementsAre("tabs.child", "plain.presented"));
 }
 
 TEST_F(TopViewController, FollowsWhatTabsWithoutASelectedOnePresent) {
   tabs.presented = other;
   EXPECT_EQ(topOf(tabs), other);
-  EXPECT_THAT(questions, ElementsAre("tabs.kind", "tabs.child", "tabs.presented", "other.kind",
-                                     "other.presented"));
+  EXPECT_THAT(questions, ElementsAre("tabs.child", "tabs.presented", "other.presented"));
 }
 
 TEST_F(TopViewController, OfTabsWithoutASelectedOneAreThemselves) {
   EXPECT_EQ(topOf(tabs), tabs);
-  EXPECT_THAT(questions, ElementsAre("tabs.kind", "tabs.child", "tabs.presented"));
+  EXPECT_THAT(questions, ElementsAre("tabs.child", "tabs.presented"));
 }
 
 TEST_F(TopViewController, FollowsTheSelectedTabInsideOfANavigation) {
@@ -146,15 +142,14 @@ TEST_F(TopViewController, OfAnAlertIsWhatPresentsIt) {
   plain.presented = alert;
   alert.presenting = plain;
   EXPECT_EQ(topOf(plain), plain);
-  EXPECT_THAT(questions, ElementsAre("plain.kind", "plain.presented", "alert.kind",
-                                     "alert.presented", "alert.presenting"));
+  EXPECT_THAT(questions, ElementsAre("plain.presented", "alert.presented", "alert.presenting"));
 }
 
 TEST_F(TopViewController, LooksNoFurtherThanWhatPresentsTheAlert) {
   alert.presenting = navigation;
   navigation.child = other;
   EXPECT_EQ(topOf(alert), navigation);
-  EXPECT_THAT(questions, ElementsAre("alert.kind", "alert.presented", "alert.presenting"));
+  EXPECT_THAT(questions, ElementsAre("alert.presented", "alert.presenting"));
 }
 
 TEST_F(TopViewController, OfAnAlertThatNobodyPresentsIsNothing) {
@@ -165,8 +160,7 @@ TEST_F(TopViewController, FollowsWhatAnAlertPresents) {
   alert.presented = other;
   alert.presenting = plain;
   EXPECT_EQ(topOf(alert), other);
-  EXPECT_THAT(questions,
-              ElementsAre("alert.kind", "alert.presented", "other.kind", "other.presented"));
+  EXPECT_THAT(questions, ElementsAre("alert.presented", "other.presented"));
 }
 
 TEST(TopViewControllerInMemory, FollowsRealPresentations) {
@@ -180,29 +174,6 @@ TEST(TopViewControllerInMemory, FollowsRealPresentations) {
   settings->presentViewController(alert, true, nullptr);
   EXPECT_EQ(QV_ViewControllerHelper::topViewController(tabs.get()), settings.get());
 }
-
-// A controller that knows nothing but the next one.
-class Link final : public NativeViewController {
- public:
-  Link* next = nullptr;
-
-  ViewController* controller() { return &controller_; }
-
-  void presentViewController(std::shared_ptr<ViewController>, bool, Completion) override {}
-  void dismissViewController(bool, Completion) override {}
-  void setModalInPresentation(bool) override {}
-  void setOverrideUserInterfaceStyle(UserInterfaceStyle) override {}
-  std::shared_ptr<ViewController> retained() override { return nullptr; }
-  ViewController* presentedViewController() const override {
-    return next == nullptr ? nullptr : &next->controller_;
-  }
-  ViewController* presentingViewController() const override { return nullptr; }
-  Kind kind() const override { return Kind::plain; }
-  ViewController* childViewController() const override { return nullptr; }
-
- private:
-  mutable ViewController controller_{*this};
-};
 
 struct Search {
   ViewController* from;
@@ -221,8 +192,8 @@ struct Search {
 // On a stack of 256 KB, of which a call for each controller would leave no byte.
 TEST(LongChain, OfTenMillionIsFollowedOnASmallStackWithoutAllocation) {
   constexpr std::size_t kLength = 10'000'000;
-  const auto chain = std::make_unique<Link[]>(kLength);
-  for (std::size_t i = 0; i + 1 < kLength; ++i) chain[i].next = &chain[i + 1];
+  const auto chain = std::make_unique<test::ChainLink[]>(kLength);
+  for (std::size_t i = 0; i + 1 < kLength; ++i) chain[i].present(chain[i + 1]);
 
   Search search{chain[0].controller()};
   pthread_attr_t attributes;

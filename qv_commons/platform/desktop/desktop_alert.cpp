@@ -19,7 +19,6 @@ class DesktopAlert final : public DesktopNode {
  public:
   DesktopAlert(SharedContext context, const std::string& title, const std::string& message);
 
-  ViewControllerKind kind() const override { return ViewControllerKind::alert; }
   AlertController& controller() override { return alert_; }
 
  protected:
@@ -51,7 +50,7 @@ class DesktopAlert final : public DesktopNode {
 
 DesktopAlert::DesktopAlert(SharedContext context, const std::string& title,
                            const std::string& message)
-    : DesktopNode(std::move(context)) {
+    : DesktopNode(std::move(context), ViewControllerKind::alert) {
   attachWindow(dialog_);
   dialog_.setWindowTitle(fromUtf8(title));
   dialog_.setAccessibleName(fromUtf8(title));

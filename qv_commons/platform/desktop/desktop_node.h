@@ -17,11 +17,11 @@ class DesktopNode : public PresentationNode {
 
   void setModalInPresentation(bool modal) override { modalInPresentation_ = modal; }
   void setOverrideUserInterfaceStyle(UserInterfaceStyle style) override;
-  ViewControllerKind kind() const override { return ViewControllerKind::plain; }
   ViewController* childViewController() const override { return nullptr; }
 
  protected:
-  explicit DesktopNode(SharedContext context) : context_(std::move(context)) {}
+  explicit DesktopNode(SharedContext context, ViewControllerKind kind = ViewControllerKind::plain)
+      : PresentationNode(kind), context_(std::move(context)) {}
 
   // Takes `window` as this node's; to be called once, by the constructor.
   void attachWindow(QWidget& window);

@@ -6,10 +6,9 @@ namespace qv_commons::desktop {
 
 HostNode::HostNode(SharedContext context, QWidget& widget, ViewControllerKind kind,
                    ShownPage shownPage)
-    : DesktopNode(std::move(context)),
+    : DesktopNode(std::move(context), kind),
       widget_(&widget),
       place_(&widget),
-      kind_(kind),
       shownPage_(std::move(shownPage)) {
   attachWindow(*widget.window());
   this->context().hostNodes[&widget] = this;

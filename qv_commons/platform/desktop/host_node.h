@@ -18,17 +18,15 @@ class HostNode final : public DesktopNode {
 
   // Whether this is still the node of `widget`, of that kind.
   bool isOf(const QWidget& widget, ViewControllerKind kind) const {
-    return widget_ == &widget && kind_ == kind;
+    return widget_ == &widget && this->kind() == kind;
   }
 
   ViewController& controller() override { return controller_; }
-  ViewControllerKind kind() const override { return kind_; }
   ViewController* childViewController() const override;
 
  private:
   QPointer<QWidget> widget_;  // null once it has been destroyed
   const QWidget* place_;      // what it is known by among the host's nodes
-  ViewControllerKind kind_;
   ShownPage shownPage_;
   ViewController controller_{*this};
 };

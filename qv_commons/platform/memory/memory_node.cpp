@@ -26,7 +26,7 @@ std::string_view transitionText(bool animated, const Completion& completion) {
 
 MemoryNode::MemoryNode(Record& record, Transitions& transitions, std::string name,
                        ViewControllerKind kind)
-    : record_(record), transitions_(transitions), name_(std::move(name)), kind_(kind) {}
+    : PresentationNode(kind), record_(record), transitions_(transitions), name_(std::move(name)) {}
 
 MemoryNode& MemoryNode::of(const ViewController& controller) {
   return static_cast<MemoryNode&>(controller.native());

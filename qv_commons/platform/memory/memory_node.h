@@ -32,7 +32,6 @@ class MemoryNode : public PresentationNode {
   void dismissViewController(bool animated, Completion completion) override;
   void setModalInPresentation(bool modal) override;
   void setOverrideUserInterfaceStyle(UserInterfaceStyle style) override;
-  ViewControllerKind kind() const override { return kind_; }
   ViewController* childViewController() const override { return child_; }
 
   // The node behind a controller that this adapter made.
@@ -53,7 +52,6 @@ class MemoryNode : public PresentationNode {
   Record& record_;
   Transitions& transitions_;
   std::string name_;
-  ViewControllerKind kind_;
   bool modalInPresentation_ = false;
   UserInterfaceStyle overrideStyle_ = UserInterfaceStyle::unspecified;
   ViewController* child_ = nullptr;

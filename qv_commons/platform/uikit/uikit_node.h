@@ -11,7 +11,7 @@ namespace qv_commons::uikit {
 class UIKitNode : public NativeViewController {
  public:
   // Belongs to `controller` once it is attached with `attachNode`.
-  explicit UIKitNode(UIViewController* controller) : controller_(controller) {}
+  explicit UIKitNode(UIViewController* controller);
 
   UIViewController* uiViewController() const { return controller_; }
 
@@ -25,7 +25,6 @@ class UIKitNode : public NativeViewController {
   void setOverrideUserInterfaceStyle(UserInterfaceStyle style) override;
   ViewController* presentedViewController() const override;
   ViewController* presentingViewController() const override;
-  ViewControllerKind kind() const override;
   ViewController* childViewController() const override;
   std::shared_ptr<ViewController> retained() override;
 

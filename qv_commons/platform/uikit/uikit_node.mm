@@ -36,6 +36,9 @@ std::shared_ptr<UIKitNode> makeNode(UIViewController* controller) {
 
 }  // namespace
 
+UIKitNode::UIKitNode(UIViewController* controller)
+    : NativeViewController(UIKitLinks::kind(controller)), controller_(controller) {}
+
 void UIKitNode::presentViewController(std::shared_ptr<ViewController> controller, bool animated,
                                       Completion completion) {
   [controller_ presentViewController:toUIViewController(controller.get())
@@ -63,10 +66,6 @@ ViewController* UIKitNode::presentedViewController() const {
 
 ViewController* UIKitNode::presentingViewController() const {
   return toViewController(UIKitLinks::presenting(controller_));
-}
-
-ViewControllerKind UIKitNode::kind() const {
-  return UIKitLinks::kind(controller_);
 }
 
 ViewController* UIKitNode::childViewController() const {
