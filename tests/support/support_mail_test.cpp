@@ -68,6 +68,17 @@ TEST(SupportMailBody, ListsThePurchasesInOrder) {
   EXPECT_EQ(purchaseLine({"", ""}), "\nIAP: Yes , \n");
 }
 
+TEST(SupportMailBody, ListsPurchasesOfEveryLength) {
+  const std::string alphabet = "abcdefghijklmnopqrstuvwxyz0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ";
+  std::vector<std::string> purchases;
+  std::string expected = "\nIAP: Yes ";
+  for (std::size_t length = 0; length <= alphabet.size(); ++length) {
+    purchases.push_back(alphabet.substr(0, length));
+    expected += purchases.back() + (length == alphabet.size() ? "\n" : ", ");
+  }
+  EXPECT_EQ(purchaseLine(purchases), expected);
+}
+
 TEST(SupportMailBody, EndsInTheMetadataVerbatim) {
   for (std::string_view metadata : {std::string_view("one\ntwo\r\nthree\rfour"),
                                     std::string_view("\xF0\x9F\x8E\x82 caf\xC3\xA9"),
