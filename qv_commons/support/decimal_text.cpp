@@ -1,11 +1,8 @@
 #include "qv_commons/support/decimal_text.h"
 
-#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <cstring>
-
-#include "qv_commons/support/shortest_decimal.h"
 
 namespace qv_commons {
 namespace {
@@ -39,28 +36,14 @@ void writeNine(char* out, std::uint32_t value) {
   std::memcpy(out + 6, kTriples[value - 1000 * thousands].text, 3);
 }
 
-// The digits of a number below 10^18 without zeros at both ends, and its power of ten.
-class Digits {
- public:
-  explicit Digits(ShortestDecimal decimal) : exponent_(decimal.exponent) {
-    constexpr std::uint64_t kBillion = 1'000'000'000;
-    writeNine(text_.data(), static_cast<std::uint32_t>(decimal.digits / kBillion));
-    writeNine(text_.data() + 9, static_cast<std::uint32_t>(decimal.digits % kBillion));
-    while (text_[begin_] == '0') ++begin_;
-    while (text_[end_ - 1] == '0') --end_;
-  }
+constexpr int kBlock = 18;
 
-  std::string_view view() const { return {text_.data() + begin_, end_ - begin_}; }
-
-  // How many of the number's digits stand before its point; below zero: how many zeros after it.
-  int beforePoint() const { return static_cast<int>(text_.size() - begin_) + exponent_; }
-
- private:
-  std::array<char, 18> text_;
-  std::size_t begin_ = 0;
-  std::size_t end_ = text_.size();
-  int exponent_;
-};
+// Writes a number below 10^18 with all zeros before it.
+void writeBlock(char* out, std::uint64_t number) {
+  constexpr std::uint64_t kBillion = 1'000'000'000;
+  writeNine(out, static_cast<std::uint32_t>(number / kBillion));
+  writeNine(out + 9, static_cast<std::uint32_t>(number % kBillion));
+}
 
 }  // namespace
 
@@ -93,32 +76,60 @@ inline bool DecimalText::writeThousandths(double value) {
 }
 
 void DecimalText::writeAny(double value) {
-  if (std::isnan(value)) return append("nan");
-  if (std::signbit(value)) append("-");
-  const double magnitude = std::abs(value);
-  if (std::isinf(value)) return append("inf");
-  if (magnitude == 0) return append("0.0");
+  const bool negative = std::signbit(value);
+  if (std::isnan(value)) return take("nan");
+  if (std::isinf(value)) return take(negative ? "-inf" : "inf");
+  if (value == 0) return take(negative ? "-0.0" : "0.0");
 
-  const Digits all(shortestDecimal(magnitude));
-  const std::string_view digits = all.view();
-  const int point = all.beforePoint();
-  const auto before = static_cast<std::size_t>(std::max(point, 0));
-  const std::size_t whole = std::min(before, digits.size());
-  append(whole == 0 ? "0" : digits.substr(0, whole));
-  if (whole != 0) appendZeros(before - whole);
-  append(".");
-  if (point < 0) appendZeros(static_cast<std::size_t>(-point));
-  append(whole == digits.size() ? "0" : digits.substr(whole));
+  const ShortestDecimal decimal = shortestDecimal(std::abs(value));
+  begin_ = 1;  // after the sign
+  if (decimal.exponent >= 0) {
+    writeWhole(decimal);
+  } else if (decimal.exponent > -kBlock) {
+    writeMixed(decimal);
+  } else {
+    writeFraction(decimal);
+  }
+  if (negative) buffer_[--begin_] = '-';
 }
 
-void DecimalText::append(std::string_view text) {
-  std::memcpy(&buffer_[end_], text.data(), text.size());
-  end_ += text.size();
+void DecimalText::take(std::string_view text) {
+  std::memcpy(buffer_.data(), text.data(), text.size());
+  end_ = text.size();
 }
 
-void DecimalText::appendZeros(std::size_t count) {
-  std::memset(&buffer_[end_], '0', count);
-  end_ += count;
+void DecimalText::writeWhole(ShortestDecimal decimal) {
+  const auto zeros = static_cast<std::size_t>(decimal.exponent);
+  writeBlock(&buffer_[1], decimal.digits);
+  while (buffer_[begin_] == '0') ++begin_;
+  std::memset(&buffer_[1 + kBlock], '0', zeros);
+  std::memcpy(&buffer_[1 + kBlock + zeros], ".0", 2);
+  end_ = 1 + kBlock + zeros + 2;
+}
+
+// The point is within the block, whose part before it moves down by one place.
+void DecimalText::writeMixed(ShortestDecimal decimal) {
+  const auto whole = static_cast<std::size_t>(kBlock + decimal.exponent);
+  writeBlock(&buffer_[2], decimal.digits);
+  std::memmove(&buffer_[1], &buffer_[2], whole);
+  buffer_[1 + whole] = '.';
+  while (buffer_[begin_] == '0' && begin_ < whole) ++begin_;
+  endAfterBlock(2);
+}
+
+// The zeros before the block's digits are some of those after the point.
+void DecimalText::writeFraction(ShortestDecimal decimal) {
+  const auto zeros = static_cast<std::size_t>(-decimal.exponent - kBlock);
+  std::memcpy(&buffer_[1], "0.", 2);
+  std::memset(&buffer_[3], '0', zeros);
+  writeBlock(&buffer_[3 + zeros], decimal.digits);
+  endAfterBlock(3 + zeros);
+}
+
+// Without the zeros at the end of the block that begins there, but for one right after the point.
+void DecimalText::endAfterBlock(std::size_t block) {
+  end_ = block + kBlock;
+  while (buffer_[end_ - 1] == '0' && buffer_[end_ - 2] != '.') --end_;
 }
 
 }  // namespace qv_commons

@@ -8,6 +8,8 @@
 #include <cstddef>
 #include <string_view>
 
+#include "qv_commons/support/shortest_decimal.h"
+
 namespace qv_commons {
 
 // Always positional and always with a fraction: whole numbers end in ".0", a minus sign comes
@@ -26,11 +28,14 @@ class DecimalText {
   void write(double value);
   bool writeThousandths(double value);
   void writeAny(double value);
-  void append(std::string_view text);
-  void appendZeros(std::size_t count);
+  void writeWhole(ShortestDecimal decimal);
+  void writeMixed(ShortestDecimal decimal);
+  void writeFraction(ShortestDecimal decimal);
+  void take(std::string_view text);
+  void endAfterBlock(std::size_t block);
 
-  // The longest text, of the smallest numbers: "-0.", 323 zeros and 17 digits.
-  std::array<char, 344> buffer_;
+  // The longest text, of the smallest numbers: "-0." and 324 digits.
+  std::array<char, 327> buffer_;
   std::size_t begin_ = 0;
   std::size_t end_ = 0;
 };
