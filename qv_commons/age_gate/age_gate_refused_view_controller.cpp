@@ -6,6 +6,7 @@
 #include "qv_commons/age_gate/policy_links.h"
 #include "qv_commons/age_gate/screen_parts.h"
 #include "qv_commons/app_info/app_info.h"
+#include "qv_commons/platform/fatal_error.h"
 
 namespace qv_commons {
 namespace {

@@ -6,7 +6,6 @@
 #include <string_view>
 
 #include "qv_commons/app_info/resource_bundle.h"
-#include "qv_commons/platform/fatal_error.h"
 #include "qv_commons/platform/platform.h"
 
 namespace qv_commons {
@@ -21,17 +20,14 @@ std::shared_ptr<Screen> makeScreen(const Platform& platform) {
                                             }));
 }
 
+[[noreturn]] void stopAtOutlet(std::string_view screen, std::string_view name);
+
 // The view behind the outlet `name`; a fatal error where it is not connected.
 template <class Screen, class ViewType>
 std::shared_ptr<ViewType> connected(const Screen&, const std::weak_ptr<ViewType>& outlet,
                                     std::string_view name) {
   std::shared_ptr<ViewType> view = outlet.lock();
-  if (!view) {
-    fatalError(std::string(Screen::kClassName)
-                   .append(": the outlet \"")
-                   .append(name)
-                   .append("\" is not connected"));
-  }
+  if (!view) stopAtOutlet(Screen::kClassName, name);
   return view;
 }
 

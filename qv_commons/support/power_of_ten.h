@@ -40,7 +40,8 @@ namespace power_of_ten {
 inline constexpr int kStep = 27;  // 5^27 has 63 bits
 inline constexpr int kFirst = -297;
 inline constexpr std::size_t kBases = 24;
-static_assert(kFirst <= kMinPowerOfTen && kMaxPowerOfTen < kFirst + kStep * static_cast<int>(kBases));
+static_assert(kFirst <= kMinPowerOfTen &&
+              kMaxPowerOfTen < kFirst + kStep * static_cast<int>(kBases));
 
 // An integer of 32-bit words, lowest first, wide enough for 5^324 and for 2^927 over 5^297.
 inline constexpr std::size_t kWords = 29;
@@ -115,8 +116,9 @@ inline constexpr auto kSmallPowers = makeSmallPowers();
 
 }  // namespace power_of_ten
 
-// The 128 bits of 10^k after its leading zeros, rounded up: 10^1 is 0xA0000000000000000000000000000000.
-// For the exponents between the two above, the ends included. Any thread.
+// The 128 bits of 10^k after its leading zeros, rounded up: 10^1 is
+// 0xA0000000000000000000000000000000. For the exponents between the two above, the ends included.
+// Any thread.
 inline Wide powerOfTen(int k) {
   const auto place = static_cast<std::size_t>(k - power_of_ten::kFirst);
   const power_of_ten::Base& base = power_of_ten::kBasesOfTen[place / power_of_ten::kStep];
