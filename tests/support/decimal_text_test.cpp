@@ -10,6 +10,8 @@
 #include <random>
 #include <string>
 
+#include "tests/support_code/allocation_counter.h"
+
 namespace qv_commons {
 namespace {
 
@@ -78,6 +80,15 @@ TEST(DecimalText, DoesNotCareAboutTheLocale) {
   EXPECT_EQ(text(1194.5), "1194.5");
   EXPECT_EQ(text(0.1 + 0.2), "0.30000000000000004");
   std::locale::global(before);
+}
+
+TEST(DecimalText, AllocatesNothing) {
+  const test::AllocationCounter counter;
+  std::size_t size = 0;
+  for (double value : {375.0, 1179.667, 0.1 + 0.2, -1e300, 5e-324})
+    size += DecimalText(value).view().size();
+  EXPECT_EQ(counter.calls(), 0);
+  EXPECT_EQ(size, 5u + 8u + 19u + 304u + 326u);
 }
 
 // The significant digits of a text that DecimalText or std::to_chars wrote.
