@@ -17,7 +17,7 @@ static_checks='^(install|docs)\.|uikit\.(ios|xib|platform_names|public_headers|p
 
 mkdir -p build
 install_packages "${core_packages[@]}" "${desktop_packages[@]}" "${tour_packages[@]}" \
-  "${test_packages[@]}" "${ios_packages[@]}"
+  "${test_packages[@]}" "${bench_packages[@]}" "${ios_packages[@]}"
 
 step "format"
 if have clang-format; then tools/format.sh --check; fi

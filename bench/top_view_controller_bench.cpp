@@ -1,25 +1,15 @@
-// The top view controller at the end of a chain: the library beside a raw chase of the same
-// pointers, which is the limit, and beside a walk that tells kinds by dynamic_cast. Time is for
-// each controller.
-//
-//     build/release/bench/top_view_controller_bench --benchmark_enable_random_interleaving=true
-//         --benchmark_repetitions=9 --benchmark_report_aggregates_only=true
-
+// The top view controller at the end of a chain, by the time for each controller on the way.
 #include <algorithm>
-#include <benchmark/benchmark.h>
-#include <cstddef>
-#include <memory>
 #include <numeric>
 #include <random>
-#include <vector>
 
 #include "qv_commons/view_utils/view_controller_helper.h"
 
+#include "bench/contest.h"
 #include "tests/support_code/chain_link.h"
 
+namespace qv_commons::bench {
 namespace {
-
-using namespace qv_commons;
 
 using Link = test::ChainLink;
 
@@ -28,7 +18,14 @@ class Navigation : public Link {};
 class Tabs : public Link {};
 class Alert : public Link {};
 
-ViewController* byDynamicCast(ViewController* controller) {
+using Start = Link*;
+
+ViewController* byLibrary(Start start) {
+  return QV_ViewControllerHelper::topViewController(start->controller());
+}
+
+ViewController* byDynamicCast(Start start) {
+  ViewController* controller = start->controller();
   while (controller != nullptr) {
     NativeViewController* native = &controller->native();
     if (dynamic_cast<Navigation*>(native) != nullptr) {
@@ -47,41 +44,42 @@ ViewController* byDynamicCast(ViewController* controller) {
   return nullptr;
 }
 
-ViewController* byRawChase(ViewController* controller) {
-  auto* link = static_cast<Link*>(&controller->native());
+ViewController* byRawChase(Start start) {
+  Link* link = start;
   while (link->next() != nullptr) link = link->next();
   return link->controller();
 }
 
-// The controllers lie in memory in the order of the chain, or in any order.
-void chase(benchmark::State& state, ViewController* (*walk)(ViewController*), bool inOrder) {
-  const auto count = static_cast<std::size_t>(state.range(0));
-  std::vector<std::size_t> order(count);
-  std::iota(order.begin(), order.end(), std::size_t{0});
+// A chain whose controllers lie in memory in its order, or in any order. Both stay for the whole
+// run, because the contenders take turns.
+Start makeChain(std::size_t count, bool inOrder) {
+  static std::vector<std::unique_ptr<Link[]>> chains;
+  const auto& links = chains.emplace_back(std::make_unique<Link[]>(count));
+  std::vector<std::uint32_t> order(count);
+  std::iota(order.begin(), order.end(), 0U);
   if (!inOrder) std::shuffle(order.begin(), order.end(), std::mt19937_64(1));
-  const auto links = std::make_unique<Link[]>(count);
   for (std::size_t i = 0; i + 1 < count; ++i) links[order[i]].present(links[order[i + 1]]);
-
-  for (auto _ : state) benchmark::DoNotOptimize(walk(links[order[0]].controller()));
-  state.counters["per controller"] =
-      benchmark::Counter(static_cast<double>(count), benchmark::Counter::kIsIterationInvariantRate |
-                                                         benchmark::Counter::kInvert);
+  return &links[order.front()];
 }
 
-constexpr auto* kLibrary = QV_ViewControllerHelper::topViewController;
-constexpr int kInCache = 10'000;
-constexpr int kOutOfCache = 10'000'000;
-
-BENCHMARK_CAPTURE(chase, in_order_library, kLibrary, true)->Arg(kInCache)->Arg(kOutOfCache);
-BENCHMARK_CAPTURE(chase, in_order_dynamic_cast, byDynamicCast, true)
-    ->Arg(kInCache)
-    ->Arg(kOutOfCache);
-BENCHMARK_CAPTURE(chase, in_order_limit_raw_chase, byRawChase, true)
-    ->Arg(kInCache)
-    ->Arg(kOutOfCache);
-BENCHMARK_CAPTURE(chase, any_order_library, kLibrary, false)->Arg(kInCache)->Arg(kOutOfCache);
-BENCHMARK_CAPTURE(chase, any_order_limit_raw_chase, byRawChase, false)
-    ->Arg(kInCache)
-    ->Arg(kOutOfCache);
-
 }  // namespace
+
+void addTopViewControllerContests() {
+  struct Chain {
+    const char* name;
+    std::size_t count;
+    bool inOrder;
+  };
+  for (const auto& [name, count, inOrder] :
+       {Chain{"10,000 side by side", 10'000, true}, Chain{"10,000 in any order", 10'000, false},
+        Chain{"4 million side by side", 4'000'000, true},
+        Chain{"4 million in any order", 4'000'000, false}}) {
+    Contest<Start>("top view controller", name, {makeChain(count, inOrder)},
+                   static_cast<std::int64_t>(count))
+        .enter("QV Commons", byLibrary)
+        .enter("by dynamic_cast", byDynamicCast)
+        .limit("raw pointers", byRawChase);
+  }
+}
+
+}  // namespace qv_commons::bench
