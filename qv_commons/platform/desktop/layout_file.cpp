@@ -10,6 +10,7 @@
 #include <type_traits>
 
 #include "qv_commons/platform/desktop/qt_text.h"
+#include "qv_commons/platform/desktop/scrolled_column.h"
 #include "qv_commons/platform/desktop/thin_scroll_bar.h"
 #include "qv_commons/platform/fatal_error.h"
 
@@ -43,6 +44,7 @@ class ScreenLoader final : public QUiLoader {
  private:
   QWidget* make(const QString& className, QWidget* parent) const {
     if (className == "WheelDatePicker") return new WheelDatePicker(calendar_, parent);
+    if (className == "ScrolledColumn") return new ScrolledColumn(parent);
     if (className == "ScreenButton") return new ScreenButton(parent);
     if (className == "LinkTextView") return new LinkTextView(parent);
     return nullptr;
