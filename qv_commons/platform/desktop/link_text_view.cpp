@@ -45,8 +45,9 @@ int LinkTextView::heightForWidth(int width) const {
   return heightOf(*copy);
 }
 
+// The height follows from the width alone.
 QSize LinkTextView::sizeHint() const {
-  return {kSmallestWidth, heightForWidth(width())};
+  return minimumSizeHint();
 }
 
 QSize LinkTextView::minimumSizeHint() const {
