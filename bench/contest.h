@@ -97,5 +97,10 @@ void addMailBodyContests();
 void addDecimalTextContests();
 void addTopViewControllerContests();
 void addReturningUserContest();
+void addUserDefaultsContests();
+void addPaintedScreenContests();
+
+// Brings up the screen of one of the last contests, prints the milliseconds and ends the process.
+void showFirstScreen(std::string_view name);
 
 }  // namespace qv_commons::bench

@@ -146,8 +146,9 @@ void addDurationContests() {
       .enterUnchecked("ICU", byICU)
       .limit("a constant text", constantText);
 
-  for (const auto& [name, durations] : {std::pair("negative durations", negated(everydayDurations())),
-                                        std::pair("any 64-bit durations", anyDurations())}) {
+  for (const auto& [name, durations] :
+       {std::pair("negative durations", negated(everydayDurations())),
+        std::pair("any 64-bit durations", anyDurations())}) {
     Contest<std::int64_t>("secondsToHms", name, durations)
         .enter("QV Commons", QV_TimeHelper::secondsToHms)
         .enter("std::to_chars", byToChars)

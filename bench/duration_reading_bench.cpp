@@ -118,7 +118,8 @@ std::int64_t byQt(const std::string& text) {
   LastFields fields;
   for (const QByteArray& field : QByteArray::fromRawData(text.data(), size).trimmed().split(':')) {
     bool valid = false;
-    fields.add(field.left(field.contains('.') ? field.indexOf('.') : field.size()).toLongLong(&valid));
+    fields.add(
+        field.left(field.contains('.') ? field.indexOf('.') : field.size()).toLongLong(&valid));
     if (!valid) std::abort();
   }
   return fields.sum();

@@ -27,7 +27,7 @@ constexpr const char* kHeight = "812.0";
 constexpr const char* kLanguage = "en-GB";
 constexpr const char* kVersion = "2.4.1(317)";
 
-#define QV_BENCH_BODY                                                                         \
+#define QV_BENCH_BODY                                                                        \
   "{}\n\n\n\n\n\n\n\n\nApp ID: {}\nDevice: {} os:  {} size: {}x{} locale: {}\nApp version: " \
   "{}\nIAP: Yes {}\n"
 
@@ -44,8 +44,8 @@ std::string byLibrary(const Purchases& purchases) {
 }
 
 std::string byAbseil(const Purchases& purchases) {
-  return absl::StrCat(kOpening, "\n\n\n\n\n\n\n\n\nApp ID: ", kAppId, "\nDevice: ", kModel, " os:  ",
-                      kSystem, " size: ", kWidth, "x", kHeight, " locale: ", kLanguage,
+  return absl::StrCat(kOpening, "\n\n\n\n\n\n\n\n\nApp ID: ", kAppId, "\nDevice: ", kModel,
+                      " os:  ", kSystem, " size: ", kWidth, "x", kHeight, " locale: ", kLanguage,
                       "\nApp version: ", kVersion, "\nIAP: Yes ", absl::StrJoin(purchases, ", "),
                       "\n");
 }
@@ -83,10 +83,10 @@ std::string byGLib(const Purchases& purchases) {
     if (&purchase != &purchases.front()) g_string_append(list, ", ");
     g_string_append_len(list, purchase.data(), static_cast<gssize>(purchase.size()));
   }
-  char* body = g_strconcat(kOpening, "\n\n\n\n\n\n\n\n\nApp ID: ", kAppId, "\nDevice: ", kModel,
-                           " os:  ", kSystem, " size: ", kWidth, "x", kHeight,
-                           " locale: ", kLanguage, "\nApp version: ", kVersion, "\nIAP: Yes ",
-                           list->str, "\n", nullptr);
+  char* body =
+      g_strconcat(kOpening, "\n\n\n\n\n\n\n\n\nApp ID: ", kAppId, "\nDevice: ", kModel,
+                  " os:  ", kSystem, " size: ", kWidth, "x", kHeight, " locale: ", kLanguage,
+                  "\nApp version: ", kVersion, "\nIAP: Yes ", list->str, "\n", nullptr);
   std::string result(body);
   g_free(body);
   g_string_free(list, TRUE);

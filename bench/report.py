@@ -34,7 +34,7 @@ def nanoseconds(measurement):
 def medians(results):
     """{(work, inputs): {contender: nanoseconds}}"""
     measured = collections.defaultdict(lambda: collections.defaultdict(list))
-    for measurement in results["benchmarks"]:
+    for measurement in sorted(results["benchmarks"], key=lambda one: one["family_index"]):
         if measurement["run_type"] != "iteration":
             continue
         work, inputs, contender = measurement["run_name"].split("/")[:3]

@@ -57,8 +57,8 @@ void useAgeGate(Host& host) {
 }
 
 void useSupport(Host& host) {
-  QV_SupportHelper::shared().contactSupport(*host.home, host.text, host.text, host.texts,
-                                            host.text, host.text, host.delegate);
+  QV_SupportHelper::shared().contactSupport(*host.home, host.text, host.text, host.texts, host.text,
+                                            host.text, host.delegate);
   const auto another = QV_SupportHelper::create();
   host.use(another->delegate().get());
   QV_RateHelper::openWriteReviewOnAppStore(host.text);

@@ -19,6 +19,7 @@ qv_add_screen_test(age_gate_test
           age_gate_layout_test.cpp
           age_gate_pictures_test.cpp
           age_gate_screen_test.cpp
+          painting_test.cpp
           resource_search_test.cpp)
 target_compile_definitions(age_gate_test
   PRIVATE QV_COMMONS_RESOURCES="${PROJECT_SOURCE_DIR}/qv_commons/resources"

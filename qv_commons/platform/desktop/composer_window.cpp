@@ -15,6 +15,7 @@
 
 #include "qv_commons/platform/desktop/desktop_style.h"
 #include "qv_commons/platform/desktop/qt_text.h"
+#include "qv_commons/platform/desktop/scrolled_column.h"
 
 namespace qv_commons::desktop {
 namespace {
@@ -83,7 +84,7 @@ QWidget* ComposerWindow::makeBar(const Reactions& reactions) {
 }
 
 QWidget* ComposerWindow::makePage(const Reactions& reactions) {
-  auto* page = named(new QWidget, "page", "page");
+  auto* page = named(new ScrolledColumn, "page", "page");
   auto* layout = new QVBoxLayout(page);
   layout->setContentsMargins(kSideMargin, kGap / 2, kSideMargin, kBottomMargin);
   layout->setSpacing(kGap);

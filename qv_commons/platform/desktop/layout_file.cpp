@@ -1,5 +1,6 @@
 #include "qv_commons/platform/desktop/layout_file.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QScrollArea>
 #include <QTextBlock>
@@ -10,6 +11,7 @@
 #include <type_traits>
 
 #include "qv_commons/platform/desktop/qt_text.h"
+#include "qv_commons/platform/desktop/scrolled_column.h"
 #include "qv_commons/platform/desktop/thin_scroll_bar.h"
 #include "qv_commons/platform/fatal_error.h"
 
@@ -43,6 +45,7 @@ class ScreenLoader final : public QUiLoader {
  private:
   QWidget* make(const QString& className, QWidget* parent) const {
     if (className == "WheelDatePicker") return new WheelDatePicker(calendar_, parent);
+    if (className == "ScrolledColumn") return new ScrolledColumn(parent);
     if (className == "ScreenButton") return new ScreenButton(parent);
     if (className == "LinkTextView") return new LinkTextView(parent);
     return nullptr;
@@ -51,6 +54,16 @@ class ScreenLoader final : public QUiLoader {
   std::string path_;
   const IcuCalendar& calendar_;
 };
+
+// Qt's loader runs every plug-in from which a form editor on this machine would offer widgets, and
+// loads all that those stand on. The screens use none of them.
+std::unique_ptr<ScreenLoader> makeLoader(const std::string& path, const IcuCalendar& calendar) {
+  const QStringList pluginFolders = QCoreApplication::libraryPaths();
+  QCoreApplication::setLibraryPaths({});
+  auto loader = std::make_unique<ScreenLoader>(path, calendar);
+  QCoreApplication::setLibraryPaths(pluginFolders);
+  return loader;
+}
 
 void setFont(QWidget& widget, double textScale) {
   const QVariant size = widget.property("textSize");
@@ -110,9 +123,9 @@ std::unique_ptr<QWidget> loadLayout(const std::string& path, const IcuCalendar& 
                                     double textScale) {
   QFile file(QFile::decodeName(path.c_str()));
   if (!file.open(QIODevice::ReadOnly)) failToLoad(path, file.errorString());
-  ScreenLoader loader(path, calendar);
-  std::unique_ptr<QWidget> root(loader.load(&file));
-  if (!root) failToLoad(path, loader.errorString());
+  const std::unique_ptr<ScreenLoader> loader = makeLoader(path, calendar);
+  std::unique_ptr<QWidget> root(loader->load(&file));
+  if (!root) failToLoad(path, loader->errorString());
   for (QScrollArea* area : root->findChildren<QScrollArea*>()) setUpScrolling(*area);
   for (QWidget* widget : root->findChildren<QWidget*>()) {
     setFont(*widget, textScale);

@@ -1,7 +1,8 @@
 // Layout files (.ui) of the library's screens.
 //
-// Beside Qt's own classes a layout may use WheelDatePicker, ScreenButton and LinkTextView; a
-// QScrollArea gets a thin scroll bar. Properties that mean something here, all of them dynamic:
+// Beside Qt's own classes a layout may use WheelDatePicker, ScreenButton, LinkTextView and, in a
+// QScrollArea, ScrolledColumn; a QScrollArea gets a thin scroll bar. Properties that mean something
+// here, all of them dynamic:
 //   textSize, textWeight   the font, in pixels at a text size of 100 %, and from 100 to 900
 //   action                 the selector of what the view triggers, for example "onConfirmPressed:"
 #pragma once

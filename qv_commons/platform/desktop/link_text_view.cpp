@@ -15,6 +15,10 @@ namespace {
 constexpr int kReach = 22;  // half of what a finger hits
 constexpr int kSmallestWidth = 120;
 
+int heightOf(const QTextDocument& document) {
+  return static_cast<int>(std::ceil(document.size().height()));
+}
+
 }  // namespace
 
 LinkTextView::LinkTextView(QWidget* parent) : QTextBrowser(parent) {
@@ -33,15 +37,17 @@ LinkTextView::LinkTextView(QWidget* parent) : QTextBrowser(parent) {
 }
 
 int LinkTextView::heightForWidth(int width) const {
+  if (document()->textWidth() == width) return heightOf(*document());
   // A copy: laying out the document itself would move what is on the screen.
   const std::unique_ptr<QTextDocument> copy(document()->clone());
   copy->setDefaultFont(font());
   copy->setTextWidth(width);
-  return static_cast<int>(std::ceil(copy->size().height()));
+  return heightOf(*copy);
 }
 
+// The height follows from the width alone.
 QSize LinkTextView::sizeHint() const {
-  return {kSmallestWidth, heightForWidth(width())};
+  return minimumSizeHint();
 }
 
 QSize LinkTextView::minimumSizeHint() const {

@@ -41,12 +41,12 @@ WheelDatePicker::WheelDatePicker(const IcuCalendar& calendar, QWidget* parent)
 
 void WheelDatePicker::setDate(double date) {
   date_.setDate(date);
-  arrange();
+  rearrange();
 }
 
 void WheelDatePicker::setMaximumDate(std::optional<double> maximum) {
   date_.setMaximumDate(maximum);
-  arrange();
+  rearrange();
 }
 
 QSize WheelDatePicker::sizeHint() const {
@@ -89,13 +89,17 @@ void WheelDatePicker::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::FontChange || event->type() == QEvent::LayoutDirectionChange) {
     updateGeometry();
-    arrange();
+    rearrange();
   }
+}
+
+// Where a size is still to come, that arranges the wheels.
+void WheelDatePicker::rearrange() {
+  if (!testAttribute(Qt::WA_PendingResizeEvent)) arrange();
 }
 
 // Side by side in the middle, in the widest form of the months for which there is room.
 void WheelDatePicker::arrange() {
-  if (wheels_.back() == nullptr) return;
   std::array<int, 3> widths{};
   const QFont font = fitFont(widths);
   const int gap = std::clamp((width() - sumOf(widths)) / 4, 0, kWidestGap);

@@ -46,6 +46,7 @@ class WheelDatePicker final : public QWidget {
 
  private:
   void turn(DateField field, int row);
+  void rearrange();
   void arrange();
   QFont fitFont(std::array<int, 3>& widths);
   std::array<int, 3> widthsOfWheels(const QFont& font, MonthForm form) const;

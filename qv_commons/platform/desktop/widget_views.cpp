@@ -107,16 +107,16 @@ void LinkedTextView::setAttributedText(const AttributedString& text) {
   QTextDocument* copy = own.document().clone(&widget_);
   copy->setDefaultFont(widget_.font());
   copy->setDocumentMargin(0);
+  links_ = own.links();
+  paintLinks(*copy);
   const QPointer<QTextDocument> before = widget_.document();
   widget_.setDocument(copy);
   delete before;  // unless it was the first, which Qt deletes itself
-  links_ = own.links();
-  paintLinks();
 }
 
 void LinkedTextView::setLinkTextAttributes(const Color& foreground) {
   linkColor_ = toQColor(foreground);
-  paintLinks();
+  paintLinks(*widget_.document());
 }
 
 void LinkedTextView::setTextColor(const Color& color) {
@@ -124,17 +124,19 @@ void LinkedTextView::setTextColor(const Color& color) {
   format.setForeground(toQColor(color));
   QTextCursor all(widget_.document());
   all.select(QTextCursor::Document);
+  all.beginEditBlock();  // the text is laid out once, at the end
   all.mergeCharFormat(format);
+  paintLinks(*widget_.document());
+  all.endEditBlock();
   setColor(widget_, QPalette::All, QPalette::Text, toQColor(color));
-  paintLinks();
 }
 
-void LinkedTextView::paintLinks() {
+void LinkedTextView::paintLinks(QTextDocument& document) const {
   if (!linkColor_.isValid()) return;
   QTextCharFormat format;
   format.setForeground(linkColor_);
   for (const LinkRun& link : links_) {
-    cursorAt(*widget_.document(), link.range).mergeCharFormat(format);
+    cursorAt(document, link.range).mergeCharFormat(format);
   }
 }
 

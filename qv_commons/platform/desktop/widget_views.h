@@ -98,7 +98,7 @@ class LinkedTextView final : public WidgetView<TextView> {
 
  private:
   void follow(const QUrl& place);
-  void paintLinks();
+  void paintLinks(QTextDocument& document) const;
 
   LinkTextView& widget_;
   LinkOpener open_;
