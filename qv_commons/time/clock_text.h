@@ -1,4 +1,5 @@
-// The usual texts of a duration, read all at once.
+// The usual texts of a duration, eight characters at most, as one number that has a character in
+// each byte.
 //
 //     int seconds = qv_commons::readClockText("1:02:05");  // 3725
 #pragma once
@@ -15,6 +16,12 @@ inline std::uint32_t fourCharacters(const char* at) {
     return std::uint32_t{static_cast<unsigned char>(at[i])} << (8 * i);
   };
   return byte(0) | byte(1) | byte(2) | byte(3);
+}
+
+// The other way round, for eight. Compilers make one store of it.
+inline void writeEight(char* out, std::uint64_t characters) {
+  const auto write = [=](int i) { out[i] = static_cast<char>(characters >> (8 * i)); };
+  write(0), write(1), write(2), write(3), write(4), write(5), write(6), write(7);
 }
 
 constexpr std::uint64_t eightCharacters(std::string_view text) {
