@@ -90,7 +90,8 @@ void DecimalText::writeAny(double value) {
   } else {
     writeFraction(decimal);
   }
-  if (negative) buffer_[--begin_] = '-';
+  buffer_[begin_ - 1] = '-';
+  begin_ -= negative ? 1 : 0;
 }
 
 void DecimalText::take(std::string_view text) {

@@ -29,24 +29,28 @@ std::size_t sizeOf(Joined list) {
 
 // Each of these writes at `out` and gives the end.
 
-char* write(char* out, std::string_view text) {
-  return std::copy(text.begin(), text.end(), out);
+// The first characters and the last ones, as many each; those in the middle perhaps twice.
+template <std::size_t count>
+char* writeBothEnds(char* out, std::string_view text) {
+  std::memcpy(out, text.data(), count);
+  out += text.size();
+  std::memcpy(out - count, text.data() + text.size() - count, count);
+  return out;
 }
 
-// The same, faster by a third where a list of 100,000 is of usual identifiers, because it needs no
-// call: the first 16 characters and the last 16 are copied, some of them twice.
-char* writeIdentifier(char* out, std::string_view text) {
-  if (text.size() < 16 || text.size() > 32) return write(out, text);
-  std::memcpy(out, text.data(), 16);
-  out += text.size();
-  std::memcpy(out - 16, text.data() + text.size() - 16, 16);
-  return out;
+// Names, identifiers and versions are short, and a call that copies one takes longer than the copy.
+inline char* write(char* out, std::string_view text) {
+  if (text.size() >= 4 && text.size() <= 32) {
+    if (text.size() >= 16) return writeBothEnds<16>(out, text);
+    return text.size() >= 8 ? writeBothEnds<8>(out, text) : writeBothEnds<4>(out, text);
+  }
+  return std::copy(text.begin(), text.end(), out);
 }
 
 char* write(char* out, Joined list) {
   for (const std::string& text : list.texts) {
     if (&text != list.texts.data()) out = write(out, kSeparator);
-    out = writeIdentifier(out, text);
+    out = write(out, text);
   }
   return out;
 }
