@@ -36,7 +36,7 @@ void writeNine(char* out, std::uint32_t value) {
   std::memcpy(out + 6, kTriples[value - 1000 * thousands].text, 3);
 }
 
-constexpr int kBlock = 18;
+constexpr std::size_t kBlock = 18;
 
 // Writes a number below 10^18 with all zeros before it.
 void writeBlock(char* out, std::uint64_t number) {
@@ -59,8 +59,8 @@ void DecimalText::write(double value) {
 // with zeros at both ends.
 inline bool DecimalText::writeThousandths(double value) {
   if (!(value > 0 && value < 10'000)) return false;
-  const auto thousandths =
-      static_cast<std::uint32_t>(static_cast<std::int64_t>(value * 1000 + 0.5));
+  const double halfAbove = value * 1000 + 0.5;  // the cast rounds down
+  const auto thousandths = static_cast<std::uint32_t>(static_cast<std::int64_t>(halfAbove));
   if (thousandths / 1000.0 != value) return false;
 
   const std::uint32_t whole = thousandths / 1000;
@@ -85,7 +85,7 @@ void DecimalText::writeAny(double value) {
   begin_ = 1;  // after the sign
   if (decimal.exponent >= 0) {
     writeWhole(decimal);
-  } else if (decimal.exponent > -kBlock) {
+  } else if (decimal.exponent > -static_cast<int>(kBlock)) {
     writeMixed(decimal);
   } else {
     writeFraction(decimal);
@@ -110,7 +110,7 @@ void DecimalText::writeWhole(ShortestDecimal decimal) {
 
 // The point is within the block, whose part before it moves down by one place.
 void DecimalText::writeMixed(ShortestDecimal decimal) {
-  const auto whole = static_cast<std::size_t>(kBlock + decimal.exponent);
+  const std::size_t whole = kBlock - static_cast<std::size_t>(-decimal.exponent);
   writeBlock(&buffer_[2], decimal.digits);
   std::memmove(&buffer_[1], &buffer_[2], whole);
   buffer_[1 + whole] = '.';
@@ -120,7 +120,7 @@ void DecimalText::writeMixed(ShortestDecimal decimal) {
 
 // The zeros before the block's digits are some of those after the point.
 void DecimalText::writeFraction(ShortestDecimal decimal) {
-  const auto zeros = static_cast<std::size_t>(-decimal.exponent - kBlock);
+  const std::size_t zeros = static_cast<std::size_t>(-decimal.exponent) - kBlock;
   std::memcpy(&buffer_[1], "0.", 2);
   std::memset(&buffer_[3], '0', zeros);
   writeBlock(&buffer_[3 + zeros], decimal.digits);
