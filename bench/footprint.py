@@ -49,17 +49,19 @@ def unused_sources(program, library):
     return sorted(members - {member for member, name in functions(library) if name in used})
 
 
-def code_size(compiler):
+def code_size(compiler, flags=""):
     """Bytes that everything adds to nothing, stripped: of the whole file, and of its code and constants."""
-    run("cmake", "-S", ROOT / "bench" / "footprint", "-B", BUILD, "-G", "Ninja", "-DCMAKE_CXX_COMPILER=" + compiler)
-    run("cmake", "--build", BUILD, "--target", "nothing", "everything")
-    unused = unused_sources(BUILD / "everything", next(BUILD.rglob("libqv_commons.a")))
+    build = BUILD / ("with" + flags.replace(" ", "") if flags else "plain")
+    run("cmake", "-S", ROOT / "bench" / "footprint", "-B", build, "-G", "Ninja", "-DCMAKE_CXX_COMPILER=" + compiler,
+        "-DFOOTPRINT_FLAGS=" + flags)
+    run("cmake", "--build", build, "--target", "nothing", "everything")
+    unused = unused_sources(build / "everything", next(build.rglob("libqv_commons.a")))
     if unused:
         sys.exit("the program does not use:\n" + "\n".join(unused))
     sizes = {}
     for name in ("nothing", "everything"):
-        stripped = BUILD / (name + ".stripped")
-        shutil.copy(BUILD / name, stripped)
+        stripped = build / (name + ".stripped")
+        shutil.copy(build / name, stripped)
         run("strip", stripped)
         sections = section_sizes(stripped)
         code = sum(sections.get(name, 0) for name in (".text", ".rodata", ".data.rel.ro", ".data", ".plt"))
@@ -87,11 +89,12 @@ def include_cost(compiler, rounds=9):
 
 def rows(compiler):
     """(what, value, beside what) for a table."""
-    code = code_size(compiler)
+    for flags in ("", "-fno-exceptions -fno-asynchronous-unwind-tables"):
+        size = code_size(compiler, flags)
+        yield ("bytes added to a stripped program that uses everything, `%s`" % ("-Os " + flags).strip(),
+               "%.1f KB" % (size["file"] / 1024), "code and constants of it: %.1f KB" % (size["code"] / 1024))
     included = include_cost(compiler)
     standard, ours = included["<string> and <functional>"], included["qv_commons/qv_commons.h"]
-    yield ("bytes added to a stripped program that uses everything, `-Os`", "%.1f KB" % (code["file"] / 1024),
-           "code and constants alone: %.1f KB" % (code["code"] / 1024))
     yield ("including `qv_commons/qv_commons.h`, time", "%.2f s" % ours["seconds"],
            "%.2f times `<string>` and `<functional>`" % (ours["seconds"] / standard["seconds"]))
     yield ("including `qv_commons/qv_commons.h`, lines", "%d" % ours["lines"],
@@ -100,4 +103,4 @@ def rows(compiler):
 
 if __name__ == "__main__":
     for what, value, beside in rows(sys.argv[1] if len(sys.argv) > 1 else "g++"):
-        print("%-66s %9s   %s" % (what, value, beside))
+        print("%s\n    %s, %s" % (what, value, beside))
