@@ -163,7 +163,7 @@ std::string_view withoutFraction(std::string_view text) {
   return text.substr(0, size);
 }
 
-std::optional<std::int64_t> readAnyText(std::string_view text) {
+[[gnu::noinline]] std::optional<std::int64_t> readAnyText(std::string_view text) {
   std::string_view rest = text;
   const std::string_view last = takeLastField(rest);
   const auto seconds = readInteger(last.substr(0, last.find('.')));
@@ -188,12 +188,13 @@ Reading readUnusualText(std::string_view text) {
   return {any.value_or(0), any.has_value()};
 }
 
-// Out of line, so that the way of most texts needs no stack.
+// Out of line, both, so that the ways before them need no stack.
+[[noreturn, gnu::noinline]] void stopAt(std::string_view text) {
+  fatalError("QV_TimeHelper: hmsToSeconds can't read \"" + std::string(text) + "\"");
+}
 [[gnu::noinline]] std::int64_t readUnusualTextOrStop(std::string_view text) {
   const Reading reading = readUnusualText(text);
-  if (!reading.valid) {
-    fatalError("QV_TimeHelper: hmsToSeconds can't read \"" + std::string(text) + "\"");
-  }
+  if (!reading.valid) stopAt(text);
   return reading.seconds;
 }
 
