@@ -1,7 +1,9 @@
 """What the library costs: the bytes that it adds to a program which uses all of it, and what including it adds to a
 compilation.
 
-usage: footprint.py [COMPILER]
+usage: footprint.py [--check] [COMPILER]
+
+With --check, what can be counted is held against its limit, and nothing is timed.
 """
 
 import pathlib
@@ -15,6 +17,7 @@ import time
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 BUILD = ROOT / "build" / "footprint"
+LARGEST = 64 * 1024
 INCLUDES = {
     "nothing": "",
     "<string> and <functional>": "#include <string>\n#include <functional>\n",
@@ -64,9 +67,13 @@ def code_size(compiler, flags=""):
         shutil.copy(build / name, stripped)
         run("strip", stripped)
         sections = section_sizes(stripped)
-        code = sum(sections.get(name, 0) for name in (".text", ".rodata", ".data.rel.ro", ".data", ".plt"))
+        code = sum(sections.get(section, 0) for section in (".text", ".rodata", ".data.rel.ro", ".data", ".plt"))
         sizes[name] = {"file": stripped.stat().st_size, "code": code}
     return {kind: sizes["everything"][kind] - sizes["nothing"][kind] for kind in ("file", "code")}
+
+
+def preprocessed_lines(compiler, source):
+    return len(run(compiler, "-std=c++20", "-I", ROOT, "-E", "-P", source).splitlines())
 
 
 def include_cost(compiler, rounds=9):
@@ -76,15 +83,14 @@ def include_cost(compiler, rounds=9):
         for name, text in INCLUDES.items():
             sources[name] = pathlib.Path(folder, "source%d.cpp" % len(sources))
             sources[name].write_text(text)
-        command = [compiler, "-std=c++20", "-I", ROOT]
-        lines = {name: len(run(*command, "-E", "-P", source).splitlines()) for name, source in sources.items()}
+        lines = {name: preprocessed_lines(compiler, source) for name, source in sources.items()}
         seconds = {name: [] for name in sources}
         for _ in range(rounds):
             for name, source in sources.items():
                 start = time.perf_counter()
-                run(*command, "-c", source, "-o", pathlib.Path(folder, "object.o"))
+                run(compiler, "-std=c++20", "-I", ROOT, "-c", source, "-o", pathlib.Path(folder, "object.o"))
                 seconds[name].append(time.perf_counter() - start)
-    return {name: {"lines": lines[name], "seconds": statistics.median(seconds[name])} for name in sources}
+    return {name: {"lines": lines[name], "seconds": statistics.median(seconds[name] or [0])} for name in sources}
 
 
 def rows(compiler):
@@ -101,6 +107,24 @@ def rows(compiler):
            "%.2f times `<string>` and `<functional>`" % (ours["lines"] / standard["lines"]))
 
 
-if __name__ == "__main__":
-    for what, value, beside in rows(sys.argv[1] if len(sys.argv) > 1 else "g++"):
+def check(compiler):
+    size = code_size(compiler)["code"]
+    lines = {name: cost["lines"] for name, cost in include_cost(compiler, rounds=0).items()}
+    standard, ours = lines["<string> and <functional>"], lines["qv_commons/qv_commons.h"]
+    print("%d bytes of code and constants, at most %d" % (size, LARGEST))
+    print("%d lines to include, less than twice %d" % (ours, standard))
+    return 0 if size <= LARGEST and ours < 2 * standard else 1
+
+
+def main():
+    arguments = [argument for argument in sys.argv[1:] if argument != "--check"]
+    compiler = arguments[0] if arguments else "g++"
+    if "--check" in sys.argv:
+        return check(compiler)
+    for what, value, beside in rows(compiler):
         print("%s\n    %s, %s" % (what, value, beside))
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -57,6 +57,8 @@ def duration(time):
 def rows(contests):
     """(work, inputs, our time, limit, the others) as texts."""
     for (work, inputs), times in contests.items():
+        if OURS not in times:  # left out by the regular expression
+            continue
         ours = times[OURS]
         limits = ["%s times %s (%s)" % (three_digits(ours / time), name.removeprefix(LIMIT), duration(time))
                   for name, time in times.items() if name.startswith(LIMIT)]
@@ -96,8 +98,10 @@ def page_text(contests, sentence, compiler):
 
 def main():
     build = pathlib.Path(sys.argv[1])
-    results = json.loads((build / "results.json").read_text())
+    results = json.loads((build / "results.json").read_text() or '{"benchmarks": []}')  # empty where nothing matched
     contests = medians(results)
+    if not any(OURS in times for times in contests.values()):
+        sys.exit("No contest with %s in it was timed. Its name is work/inputs/contender." % OURS)
     for work, inputs, ours, limit, others in rows(contests):
         print("%s, %s: %s\n%s%s" % (work, inputs, ours, "    %s\n" % limit if limit else "",
                                     "    others, times as long: %s\n" % others if others else ""))

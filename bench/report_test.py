@@ -1,5 +1,10 @@
 """The report's medians and ratios, on a run with round figures."""
 
+import json
+import pathlib
+import subprocess
+import sys
+import tempfile
 import unittest
 
 import report
@@ -29,6 +34,20 @@ class Report(unittest.TestCase):
             ("read", "second", "1 µs", "", ""),
             ("show", "screen", "1.5 ms", "", ""),
         ])
+
+    def test_leaves_out_contests_without_the_library(self):
+        peers = [one for one in RESULTS["benchmarks"] if one["run_name"] != "read/second/QV Commons"]
+        peers.append(measurement("read/second/slow", 4, items_per_second=1e6))
+        works = [row[0] for row in report.rows(report.medians({"benchmarks": peers}))]
+        self.assertEqual(works, ["write", "show"])
+
+    def test_says_so_where_nothing_was_timed(self):
+        for text in ("", json.dumps({"benchmarks": [measurement("read/second/slow", 0, items_per_second=1e6)]})):
+            with tempfile.TemporaryDirectory() as build:
+                pathlib.Path(build, "results.json").write_text(text)
+                done = subprocess.run([sys.executable, report.__file__, build], capture_output=True, text=True)
+            self.assertEqual((done.returncode, done.stdout), (1, ""))
+            self.assertTrue(done.stderr.startswith("No contest with QV Commons in it was timed."), done.stderr)
 
     def test_rounds_to_three_digits(self):
         self.assertEqual([report.duration(time) for time in (1.234, 999.4, 1e3, 12345, 9.876e6, 2e9)],
