@@ -68,13 +68,15 @@ void QV_AgeGateViewController::onConfirmPressed() {
   if (judgeBirthDate(birth, now, platform_.calendar, minimumAgerequired) ==
       AgeGateVerdict::refused) {
     refuse();
-  } else if (const Completion completion = completionHandler) {
-    completion();
+  } else {
+    platform_.userDefaults.commit();
+    if (const Completion completion = completionHandler) completion();
   }
 }
 
 void QV_AgeGateViewController::refuse() {
   platform_.userDefaults.setBool(true, kAgeGateBlockedKey);
+  platform_.userDefaults.commit();  // both flags or neither
   auto refusal =
       makeRefusedScreen(platform_, {contactUsHandler, privacyLink, termsOfServiceLink, colorTheme},
                         RefusedScreenLook::pinned);

@@ -12,9 +12,12 @@ class UserDefaults {
   // False where the key was never written. Main thread.
   virtual bool boolForKey(std::string_view key) const = 0;
 
-  // Visible to `boolForKey` at once. Whether and when it reaches the disk is the platform's affair,
-  // but what is written in one turn of the event loop reaches it together or not at all.
+  // Visible to `boolForKey` at once, on the disk with the next `commit`.
   virtual void setBool(bool value, std::string_view key) = 0;
+
+  // Persists everything set since the last call, all of it or none. A platform that persists on its
+  // own does nothing here.
+  virtual void commit() = 0;
 };
 
 }  // namespace qv_commons

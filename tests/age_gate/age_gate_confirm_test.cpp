@@ -40,7 +40,8 @@ TEST_F(AgeGateConfirm, LetsAnOldEnoughUserThroughAtOnce) {
   EXPECT_THAT(lines(), ElementsAre("screen1.dismissViewController animated, no completion",
                                    "userDefaults.setBool true QV_AgeGate_Shown",
                                    "screen1.datePicker.date", "clock.timeIntervalSince1970",
-                                   "calendar.yearsBetween 1132006400.0 1700000000.0"));
+                                   "calendar.yearsBetween 1132006400.0 1700000000.0",
+                                   "userDefaults.commit"));
   EXPECT_EQ(platform.transitions().waiting(), 1u);  // the dismissal still runs
   EXPECT_EQ(completions, 1);
   EXPECT_THAT(flags(), UnorderedElementsAre(Pair("QV_AgeGate_Shown", true)));
@@ -56,7 +57,7 @@ TEST_F(AgeGateConfirm, RefusesAUserUnderAge) {
           "screen1.dismissViewController animated, no completion",
           "userDefaults.setBool true QV_AgeGate_Shown", "screen1.datePicker.date",
           "clock.timeIntervalSince1970", "calendar.yearsBetween 1132092800.0 1700000000.0",
-          "userDefaults.setBool true QV_AgeGate_Blocked",
+          "userDefaults.setBool true QV_AgeGate_Blocked", "userDefaults.commit",
           "libraryBundle.URLForResource QV_Commons_iOS.bundle",
           "bundles.bundleWithURL /library/QV_Commons_iOS.bundle",
           "layoutLoader.initWithNibName screen2 QV_AgeGateRefusedViewController resourceBundle",
@@ -80,6 +81,16 @@ TEST_F(AgeGateConfirm, RefusesAUserUnderAge) {
   EXPECT_EQ(completions, 0);
   EXPECT_THAT(flags(), UnorderedElementsAre(Pair("QV_AgeGate_Shown", true),
                                             Pair("QV_AgeGate_Blocked", true)));
+}
+
+TEST_F(AgeGateConfirm, HasCommittedTheOutcomeWhenTheHostIsCalled) {
+  bool wasCommitted = false;
+  QV_AgeGateHelper::startAgeGateProcess(
+      home, 18, [&] { wasCommitted = platform.userDefaults().committed.at("QV_AgeGate_Shown"); },
+      nullptr, theme, "", "");
+  gate = screen();
+  confirm(kEighteenYearsAgo);
+  EXPECT_TRUE(wasCommitted);
 }
 
 TEST_F(AgeGateConfirm, HandsItsThemeLinksAndHandlerToTheRefusal) {
@@ -157,7 +168,7 @@ TEST_F(AgeGateConfirm, WritesBothFlagsAndShowsNothingWithoutAHost) {
       ElementsAre("screen1.dismissViewController animated, no completion",
                   "userDefaults.setBool true QV_AgeGate_Shown", "screen1.datePicker.date",
                   "clock.timeIntervalSince1970", "calendar.yearsBetween 1700000000.0 1700000000.0",
-                  "userDefaults.setBool true QV_AgeGate_Blocked",
+                  "userDefaults.setBool true QV_AgeGate_Blocked", "userDefaults.commit",
                   "libraryBundle.URLForResource QV_Commons_iOS.bundle",
                   "bundles.bundleWithURL /library/QV_Commons_iOS.bundle",
                   "layoutLoader.initWithNibName screen2 QV_AgeGateRefusedViewController "

@@ -35,6 +35,9 @@ class Desktop {
 
   const Platform& platform() { return desktop_.platform(); }
   UserDefaults& userDefaults() { return platform().userDefaults; }
+  bool nextStartReads(const char* key) const {
+    return desktop::DesktopPlatform(settings()).platform().userDefaults.boolForKey(key);
+  }
   Calendar& calendar() { return platform().calendar; }
   Bundles& bundles() { return platform().bundles; }
   Files& files() { return platform().files; }

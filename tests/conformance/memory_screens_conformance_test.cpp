@@ -12,6 +12,11 @@ class Memory {
  public:
   const Platform& platform() { return platform_.platform(); }
   UserDefaults& userDefaults() { return platform_.userDefaults(); }
+  bool nextStartReads(const char* key) {
+    const auto& committed = platform_.userDefaults().committed;
+    const auto found = committed.find(key);
+    return found != committed.end() && found->second;
+  }
   Calendar& calendar() { return platform_.calendar(); }
   Bundles& bundles() { return platform_.bundles(); }
   Files& files() { return platform_.files(); }

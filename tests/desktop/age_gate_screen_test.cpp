@@ -231,7 +231,7 @@ TEST_F(AgeGateTest, LetsTheHostPresentOverTheRefusalFromTheContactLink) {
   EXPECT_NE(refusal(), nullptr);
 }
 
-TEST_F(AgeGateTest, RemembersTheRefusalBeforeItIsPainted) {
+TEST_F(AgeGateTest, RemembersTheRefusalBeforeTheEventLoopGoesOn) {
   startAgeGate();
   pickYear(*gate(), "2020");
   auto& button = view<QPushButton>(*gate(), "confirmBtn");
@@ -240,8 +240,6 @@ TEST_F(AgeGateTest, RemembersTheRefusalBeforeItIsPainted) {
     return other.platform().userDefaults.boolForKey("QV_AgeGate_Blocked");
   };
   button.click();  // without a turn of the event loop
-  EXPECT_FALSE(isRemembered());
-  refusal()->grab();
   EXPECT_TRUE(isRemembered());
 }
 

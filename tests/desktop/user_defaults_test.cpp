@@ -1,4 +1,3 @@
-#include <QCoreApplication>
 #include <QTemporaryDir>
 #include <csignal>
 #include <filesystem>
@@ -62,21 +61,21 @@ TEST_F(UserDefaultsTest, AreFalseAndMakeNoFileUntilSomethingIsWritten) {
   EXPECT_THAT(errors_, IsEmpty());
 }
 
-TEST_F(UserDefaultsTest, AreVisibleAtOnceAndOnTheDiskAfterTheNextTurnOfTheEventLoop) {
+TEST_F(UserDefaultsTest, AreVisibleAtOnceAndOnTheDiskAfterACommit) {
   const auto defaults = start();
   defaults->setBool(true, kShown);
   EXPECT_TRUE(defaults->boolForKey(kShown));
   EXPECT_FALSE(start()->boolForKey(kShown));
-  QCoreApplication::processEvents();
+  defaults->commit();
   EXPECT_TRUE(start()->boolForKey(kShown));
 }
 
-TEST_F(UserDefaultsTest, CommitWhatOneTurnWroteInOneTransaction) {
+TEST_F(UserDefaultsTest, CommitWhatWasSetInOneTransaction) {
   const WatchedSqlite watched;
   const auto defaults = start();
   defaults->setBool(true, kShown);
   defaults->setBool(true, kBlocked);
-  QCoreApplication::processEvents();
+  defaults->commit();
   const std::string insert = "INSERT OR REPLACE INTO bools VALUES (?1, ?2)";
   EXPECT_THAT(watched.statements(),
               ElementsAre("PRAGMA synchronous = FULL", "BEGIN IMMEDIATE",
@@ -90,13 +89,6 @@ TEST_F(UserDefaultsTest, KeepFalseAndOverwrite) {
   EXPECT_FALSE(defaults->boolForKey(kShown));
   defaults->commit();
   EXPECT_FALSE(start()->boolForKey(kShown));
-}
-
-TEST_F(UserDefaultsTest, AreWrittenWhenTheApplicationQuits) {
-  const auto defaults = start();
-  defaults->setBool(true, kShown);
-  QMetaObject::invokeMethod(QCoreApplication::instance(), "aboutToQuit");
-  EXPECT_TRUE(start()->boolForKey(kShown));
 }
 
 TEST_F(UserDefaultsTest, AreForTheUserAlone) {
@@ -172,7 +164,7 @@ TEST_F(UserDefaultsTest, ReportAFolderThatCannotBeWrittenAndGoOn) {
   std::ofstream(temporary_.path().toStdString() + "/data") << "a file in the folder's place";
   const auto defaults = start();
   defaults->setBool(true, kShown);
-  QCoreApplication::processEvents();
+  defaults->commit();
   EXPECT_TRUE(defaults->boolForKey(kShown));
   EXPECT_THAT(errors_, ElementsAre(HasSubstr("Not a directory")));
 }
@@ -185,13 +177,13 @@ TEST_F(UserDefaultsTest, KeepWhatTheDiskHadNoRoomForAndWriteItWithTheNext) {
   const rlimit none{0, before.rlim_max};
   setrlimit(RLIMIT_FSIZE, &none);
   defaults->setBool(true, kShown);
-  QCoreApplication::processEvents();
+  defaults->commit();
   setrlimit(RLIMIT_FSIZE, &before);
   EXPECT_FALSE(errors_.empty());
   EXPECT_TRUE(defaults->boolForKey(kShown));
 
   defaults->setBool(true, kBlocked);
-  QCoreApplication::processEvents();
+  defaults->commit();
   EXPECT_TRUE(start()->boolForKey(kShown));
   EXPECT_TRUE(start()->boolForKey(kBlocked));
 }

@@ -123,6 +123,9 @@ class UIKit {
  public:
   const Platform& platform() { return uikit::platform(); }
   UserDefaults& userDefaults() { return platform().userDefaults; }
+  bool nextStartReads(const char* key) {
+    return [NSUserDefaults.standardUserDefaults boolForKey:@(key)];
+  }
   Calendar& calendar() { return platform().calendar; }
   Bundles& bundles() { return bundles_; }
   Files& files() { return platform().files; }

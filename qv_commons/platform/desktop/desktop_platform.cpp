@@ -41,7 +41,7 @@ struct DesktopPlatform::Parts {
   DesktopApplication application;
   DesktopMail mail{context};
   DesktopAlerts alerts{context};
-  DesktopLayoutLoader layoutLoader{context, {calendar, application, userDefaults}};
+  DesktopLayoutLoader layoutLoader{context, {calendar, application}};
   Platform platform{.bundles = bundles,
                     .files = files,
                     .console = console,

@@ -28,9 +28,7 @@ constexpr QRgb kDarkGround = 0xff000000;
 // The layout's root in a window of its own.
 class LayoutNode::ScreenWindow final : public QWidget {
  public:
-  explicit ScreenWindow(SqliteUserDefaults& userDefaults) : userDefaults_(userDefaults) {
-    column_.setContentsMargins(0, 0, 0, 0);
-  }
+  ScreenWindow() { column_.setContentsMargins(0, 0, 0, 0); }
 
   void setContent(std::unique_ptr<QWidget> content) {
     if (const auto* header = content->findChild<QLabel*>("header")) {
@@ -40,9 +38,6 @@ class LayoutNode::ScreenWindow final : public QWidget {
   }
 
  protected:
-  // Nothing is shown before it is certain to be remembered.
-  void paintEvent(QPaintEvent*) override { userDefaults_.commit(); }
-
   void resizeEvent(QResizeEvent*) override {
     const auto margin = [](int length, int panelLength) {
       return std::max(kLeastMargin, (length - qRound(panelLength * textScale())) / 2);
@@ -54,7 +49,6 @@ class LayoutNode::ScreenWindow final : public QWidget {
   }
 
  private:
-  SqliteUserDefaults& userDefaults_;
   QVBoxLayout column_{this};
 };
 
@@ -62,7 +56,7 @@ LayoutNode::LayoutNode(SharedContext context, const ScreenServices& services, st
     : DesktopNode(std::move(context)),
       services_(services),
       path_(std::move(path)),
-      screenWindow_(std::make_unique<ScreenWindow>(services.userDefaults)) {
+      screenWindow_(std::make_unique<ScreenWindow>()) {
   attachWindow(*screenWindow_);
 }
 

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "qv_commons/platform/application.h"
 #include "qv_commons/platform/desktop/desktop_node.h"
 #include "qv_commons/platform/desktop/icu_calendar.h"
-#include "qv_commons/platform/desktop/sqlite_user_defaults.h"
 #include "qv_commons/platform/layout_loader.h"
 
 namespace qv_commons::desktop {
@@ -16,7 +16,6 @@ namespace qv_commons::desktop {
 struct ScreenServices {
   const IcuCalendar& calendar;
   Application& application;  // opens links
-  SqliteUserDefaults& userDefaults;
 };
 
 class LayoutNode final : public DesktopNode {

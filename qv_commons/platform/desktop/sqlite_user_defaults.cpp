@@ -1,10 +1,7 @@
 #include "qv_commons/platform/desktop/sqlite_user_defaults.h"
 
-#include <QCoreApplication>
-#include <QEvent>
 #include <cerrno>
 #include <filesystem>
-#include <limits>
 #include <sys/stat.h>
 #include <system_error>
 #include <utility>
@@ -38,11 +35,7 @@ SqliteUserDefaults::SqliteUserDefaults(const std::string& folder, const std::str
                                        ErrorHandler report)
     : folder_(folder),
       report_(std::move(report)),
-      file_(std::filesystem::path(folder) / fileName(identifier), report_) {
-  if (QCoreApplication* application = QCoreApplication::instance()) {
-    connect(application, &QCoreApplication::aboutToQuit, this, &SqliteUserDefaults::commit);
-  }
-}
+      file_(std::filesystem::path(folder) / fileName(identifier), report_) {}
 
 SqliteUserDefaults::~SqliteUserDefaults() {
   commit();
@@ -56,9 +49,6 @@ bool SqliteUserDefaults::boolForKey(std::string_view key) const {
 }
 
 void SqliteUserDefaults::setBool(bool value, std::string_view key) {
-  // Once, and before everything else that waits for the event loop, painting above all.
-  QCoreApplication::removePostedEvents(this, QEvent::User);
-  QCoreApplication::postEvent(this, new QEvent(QEvent::User), std::numeric_limits<int>::max());
   waiting_.insert_or_assign(std::string(key), value);
 }
 
@@ -70,12 +60,6 @@ void SqliteUserDefaults::commit() {
     return;
   }
   if (file_.write(waiting_)) waiting_.clear();
-}
-
-bool SqliteUserDefaults::event(QEvent* event) {
-  if (event->type() != QEvent::User) return QObject::event(event);
-  commit();
-  return true;
 }
 
 }  // namespace qv_commons::desktop

@@ -1,26 +1,17 @@
 // The user defaults of the desktop: one SQLite file a host identifier, for the user's eyes only.
 //
-// Values are visible to `boolForKey` at once. What is written in one turn of the event loop is
-// written to the disk in ONE transaction (`synchronous=FULL`), which is the first thing that the
-// event loop does next; at the latest when the application ends or this object does.
-//
-// What holds when the process is killed, at any instant:
-//   - before the transaction is complete, nothing of that turn is on the disk: the next start sees
-//     the user defaults as they were, so a user who was about to be refused is asked again;
-//   - afterwards all of it is: both flags of a refusal, never the first without the second.
-// A screen that tells the user an outcome calls `commit` before it paints, so that whatever has
-// been seen is on the disk.
+// `commit` is one transaction (`synchronous=FULL`): killed before it is complete, the next start
+// sees the user defaults as they were; afterwards all of them.
 //
 // Where the disk fails (a folder that can't be written, no room left, another process that holds
 // the file for more than five seconds), the error handler is told, the values stay in memory and
-// are tried again with the next write and at the end. A damaged file is renamed to
+// are tried again with the next commit and at the end. A damaged file is renamed to
 // `<file>.damaged-1` (2, 3 ... where that exists) and everything reads false.
 //
 // Reading alone writes nothing and makes no file. Several processes may share the file. Main
 // thread only.
 #pragma once
 
-#include <QObject>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -30,7 +21,7 @@
 
 namespace qv_commons::desktop {
 
-class SqliteUserDefaults final : public QObject, public UserDefaults {
+class SqliteUserDefaults final : public UserDefaults {
  public:
   using ErrorHandler = SqliteFile::ErrorHandler;
 
@@ -42,10 +33,7 @@ class SqliteUserDefaults final : public QObject, public UserDefaults {
   bool boolForKey(std::string_view key) const override;
   void setBool(bool value, std::string_view key) override;
 
-  // Writes what is waiting; does nothing where nothing is.
-  void commit();
-
-  bool event(QEvent* event) override;
+  void commit() override;
 
  private:
   std::string folder_;

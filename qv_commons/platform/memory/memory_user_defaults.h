@@ -16,6 +16,7 @@ class MemoryUserDefaults final : public UserDefaults {
   explicit MemoryUserDefaults(Record& record) : record_(record) {}
 
   std::map<std::string, bool, std::less<>> values;
+  std::map<std::string, bool, std::less<>> committed;  // what the app starts with if killed now
 
   bool boolForKey(std::string_view key) const override {
     record_.add("userDefaults.boolForKey ", key);
@@ -26,6 +27,11 @@ class MemoryUserDefaults final : public UserDefaults {
   void setBool(bool value, std::string_view key) override {
     record_.add("userDefaults.setBool ", value ? "true " : "false ", key);
     values.insert_or_assign(std::string(key), value);
+  }
+
+  void commit() override {
+    record_.add("userDefaults.commit");
+    committed = values;
   }
 
  private:

@@ -58,6 +58,7 @@ class UIKitUserDefaults final : public UserDefaults {
  public:
   bool boolForKey(std::string_view key) const override;
   void setBool(bool value, std::string_view key) override;
+  void commit() override {}  // the system persists on its own
 };
 
 class UIKitApplication final : public Application {
