@@ -20,7 +20,7 @@
 namespace qv_commons::bench {
 namespace {
 
-// A text without an allocation, as the library's is.
+// A text without an allocation.
 class Buffer {
  public:
   char* begin() { return text_.data(); }
@@ -39,10 +39,6 @@ class Buffer {
   std::array<char, 400> text_;
   std::size_t size_ = 0;
 };
-
-DecimalText byLibrary(double value) {
-  return DecimalText(value);
-}
 
 Buffer constantText(double) {
   Buffer text;
@@ -131,7 +127,7 @@ std::vector<double> anyDoubles() {
 
 void addDecimalTextContests() {
   Contest<double>("screen figures' text", "screen sizes", screenSizes())
-      .enter("QV Commons", byLibrary)
+      .enter("QV Commons", decimalText)
       .enter("std::to_chars", byToChars)
       .enter("{fmt}", byFmt)
       .enterUnchecked("snprintf", bySnprintf)
@@ -142,7 +138,7 @@ void addDecimalTextContests() {
       .limit("a constant text", constantText);
 
   Contest<double>("screen figures' text", "any double", anyDoubles())
-      .enter("QV Commons", byLibrary)
+      .enter("QV Commons", decimalText)
       .enterUnchecked("std::to_chars with exponents", byToChars)
       .enterUnchecked("std::to_chars with all digits", byFixedToChars)
       .enterUnchecked("{fmt} with exponents", byFmt)

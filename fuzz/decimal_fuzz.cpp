@@ -13,7 +13,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   double value = 0;
   if (size < sizeof value) return 0;
   std::memcpy(&value, data, sizeof value);
-  const std::string text(qv_commons::DecimalText(value).view());
+  const std::string text = qv_commons::decimalText(value);
   if (!std::isfinite(value)) return 0;
   const std::size_t point = text.find('.');
   check(point != std::string::npos && point != 0, "there are digits before the point");

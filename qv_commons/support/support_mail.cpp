@@ -69,14 +69,14 @@ std::string concatenated(const Pieces&... pieces) {
 
 std::string supportMailBody(const SupportMailInputs& inputs) {
   const std::string_view question = "Reason for contacting support:";
-  const DecimalText width(inputs.screenSize.width);
-  const DecimalText height(inputs.screenSize.height);
+  const std::string width = decimalText(inputs.screenSize.width);
+  const std::string height = decimalText(inputs.screenSize.height);
   return concatenated(
       inputs.openingMessage.value_or(question), "\n\n\n\n\n\n\n\n\nApp ID: ", inputs.appId,
-      "\nDevice: ", inputs.localizedModel, " os:  ", inputs.systemVersion, " size: ", width.view(),
-      "x", height.view(), " locale: ", inputs.preferredLanguage,
-      "\nApp version: ", inputs.appVersion, "\nIAP: ", inputs.purchases.empty() ? "No " : "Yes ",
-      Joined{inputs.purchases}, "\n", inputs.additionalMetadata.value_or(""));
+      "\nDevice: ", inputs.localizedModel, " os:  ", inputs.systemVersion, " size: ", width, "x",
+      height, " locale: ", inputs.preferredLanguage, "\nApp version: ", inputs.appVersion,
+      "\nIAP: ", inputs.purchases.empty() ? "No " : "Yes ", Joined{inputs.purchases}, "\n",
+      inputs.additionalMetadata.value_or(""));
 }
 
 MailAttachment supportMailAttachment(std::string_view receipt) {

@@ -72,7 +72,7 @@ double yearsLater(const Moment& moment, std::int64_t years) {
 }  // namespace
 
 std::optional<std::int64_t> MemoryCalendar::yearsBetween(double from, double to) const {
-  record_.add("calendar.yearsBetween ", DecimalText(from).view(), " ", DecimalText(to).view());
+  record_.add("calendar.yearsBetween ", decimalText(from), " ", decimalText(to));
   if (!available || !isTold(from) || !isTold(to)) return std::nullopt;
   const Moment start = momentOf(from);
   std::int64_t years = momentOf(to).day.year - start.day.year;
@@ -82,7 +82,7 @@ std::optional<std::int64_t> MemoryCalendar::yearsBetween(double from, double to)
 }
 
 std::optional<double> MemoryCalendar::dateByAddingYears(double date, int years) const {
-  record_.add("calendar.dateByAddingYears ", DecimalText(date).view(), " ", std::to_string(years));
+  record_.add("calendar.dateByAddingYears ", decimalText(date), " ", std::to_string(years));
   if (!available || !isTold(date)) return std::nullopt;
   const double later = yearsLater(momentOf(date), years);
   return isTold(later) ? std::optional(later) : std::nullopt;

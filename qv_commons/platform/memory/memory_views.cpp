@@ -5,7 +5,7 @@ namespace qv_commons::memory {
 std::string textOf(const Color& color) {
   std::string text;
   for (const double component : {color.red, color.green, color.blue, color.alpha}) {
-    text.append(text.empty() ? "" : " ").append(DecimalText(component).view());
+    text.append(text.empty() ? "" : " ").append(decimalText(component));
   }
   return text;
 }
@@ -36,12 +36,12 @@ void MemoryButton::setTitleColor(const Color& color, ControlState state) {
 }
 
 void MemoryDatePicker::setMaximumDate(std::optional<double> date) {
-  note("setMaximumDate ", date ? DecimalText(*date).view() : "none");
+  note("setMaximumDate ", date ? decimalText(*date) : std::string("none"));
   maximumDate_ = date;
 }
 
 void MemoryDatePicker::setDate(double date) {
-  note("setDate ", DecimalText(date).view());
+  note("setDate ", decimalText(date));
   date_ = date;
 }
 

@@ -41,7 +41,7 @@ class MemoryViewOf : public Interface {
     backgroundColor_ = color;
   }
   void setCornerRadius(double points) override {
-    note("setCornerRadius ", DecimalText(points).view());
+    note("setCornerRadius ", decimalText(points));
     cornerRadius_ = points;
   }
   void setClipsToBounds(bool clips) override {
