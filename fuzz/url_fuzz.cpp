@@ -1,4 +1,4 @@
-// Parsing a URL never crashes, and the parts of one that parses make up its text.
+// Parsing a URL never crashes, and what parses has the form that RFC 3986 gives it.
 
 #include <optional>
 #include <string>
@@ -6,29 +6,6 @@
 #include "qv_commons/support/url.h"
 
 #include "fuzz/fuzz.h"
-
-namespace {
-
-void append(std::string& text, std::string_view delimiter,
-            const std::optional<std::string_view>& part) {
-  if (part) text.append(delimiter).append(*part);
-}
-
-// RFC 3986, section 5.3, with the authority taken apart.
-std::string recomposed(const qv_commons::URL& url) {
-  std::string text(url.scheme());
-  text += ':';
-  if (url.host()) text += "//";
-  if (url.userinfo()) text.append(*url.userinfo()).append("@");
-  append(text, "", url.host());
-  append(text, ":", url.port());
-  text.append(url.path());
-  append(text, "?", url.query());
-  append(text, "#", url.fragment());
-  return text;
-}
-
-}  // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using qv_commons::URL;
@@ -38,13 +15,13 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (!url) return 0;
 
   check(url->text() == text, "the text is kept");
-  check(recomposed(*url) == text, "the parts make up the text");
-  check(!url->scheme().empty(), "there is a scheme");
+  check(text.find(':') != text.npos && text.find_first_of(":/?#") == text.find(':'),
+        "a scheme comes first");
   for (const char c : text) check('!' <= c && c <= '~', "every character is a visible ASCII one");
-  check(!url->host() || url->path().empty() || url->path().front() == '/',
-        "a path after a host begins with a slash");
   check(!URL::parse(text + " ") && !URL::parse(" " + text), "a space makes it invalid");
-  check(URL::parse(text + (url->fragment() ? "" : "#") + "%41?/:@").has_value(),
+  const bool hasFragment = text.find('#') != text.npos;
+  check(URL::parse(text + (hasFragment ? "" : "#") + "%41?/:@").has_value(),
         "a fragment may follow");
+  check(!URL::parse(text + "##"), "a second fragment may not");
   return 0;
 }

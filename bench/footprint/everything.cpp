@@ -64,15 +64,7 @@ void useSupport(Host& host) {
   QV_RateHelper::openWriteReviewOnAppStore(host.text);
   host.use(QV_Links::privacyPolicy().text());
   host.use(QV_Links::termsOfService().text());
-  if (const auto url = URL::parse(host.text)) {
-    host.use(url->scheme());
-    host.use(url->userinfo().value_or(""));
-    host.use(url->host().value_or(""));
-    host.use(url->port().value_or(""));
-    host.use(url->path());
-    host.use(url->query().value_or(""));
-    host.use(url->fragment().value_or(""));
-  }
+  host.use(URL::parse(host.text).has_value());
 }
 
 void useAppInfo(Host& host) {

@@ -13,23 +13,6 @@ TEST(Links, AreTheTwoDocumentsOnTheMakersSite) {
   EXPECT_EQ(QV_Links::termsOfService().text(), "https://" MAKER_HOST "/terms-of-service/");
 }
 
-TEST(Links, HaveASchemeAHostAndAPathAlone) {
-  const URL privacy = QV_Links::privacyPolicy();
-  EXPECT_EQ(privacy.scheme(), "https");
-  EXPECT_EQ(privacy.host(), MAKER_HOST);
-  EXPECT_EQ(privacy.path(), "/privacy/");
-  const URL terms = QV_Links::termsOfService();
-  EXPECT_EQ(terms.scheme(), "https");
-  EXPECT_EQ(terms.host(), MAKER_HOST);
-  EXPECT_EQ(terms.path(), "/terms-of-service/");
-  for (const URL& link : {privacy, terms}) {
-    EXPECT_EQ(link.userinfo(), std::nullopt);
-    EXPECT_EQ(link.port(), std::nullopt);
-    EXPECT_EQ(link.query(), std::nullopt);
-    EXPECT_EQ(link.fragment(), std::nullopt);
-  }
-}
-
 TEST(Links, AreEqualAtEveryCall) {
   EXPECT_EQ(QV_Links::privacyPolicy(), QV_Links::privacyPolicy());
   EXPECT_EQ(QV_Links::termsOfService(), QV_Links::termsOfService());

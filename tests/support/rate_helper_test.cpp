@@ -5,7 +5,6 @@
 #include <string>
 
 #include "qv_commons/platform/memory/memory_platform.h"
-#include "qv_commons/support/url.h"
 
 #include "tests/support_code/allocation_counter.h"
 
@@ -28,16 +27,6 @@ TEST_F(RateHelper, OpensTheReviewPageAndAsksNothingElse) {
                           "itms-apps://apps.apple.com/app/id123456789?mt=8&action=write-review"));
 }
 
-TEST_F(RateHelper, PutsTheIdentifierIntoThePath) {
-  QV_RateHelper::openWriteReviewOnAppStore("id123456789");
-  const auto url = URL::parse(platform.application().opened.back());
-  ASSERT_TRUE(url);
-  EXPECT_EQ(url->scheme(), "itms-apps");
-  EXPECT_EQ(url->host(), "apps.apple.com");
-  EXPECT_EQ(url->path(), "/app/id123456789");
-  EXPECT_EQ(url->query(), "mt=8&action=write-review");
-}
-
 TEST_F(RateHelper, AddsNoPrefix) {
   QV_RateHelper::openWriteReviewOnAppStore("123456789");
   EXPECT_THAT(platform.application().opened,
@@ -57,7 +46,7 @@ TEST_F(RateHelper, EncodesNothing) {
       ElementsAre("itms-apps://apps.apple.com/app/a/../b%20c#d?e?mt=8&action=write-review"));
 }
 
-TEST_F(RateHelper, DoesNothingAtAllWhereTheLinkIsNoURL) {
+TEST_F(RateHelper, DoesNothingIfTheLinkIsNotAValidURL) {
   for (const std::string appId : {" id1", "id1\n", "id 1", "id%1", "id|1", "\xc3\xa4", "[id1]"}) {
     QV_RateHelper::openWriteReviewOnAppStore(appId);
   }

@@ -2,118 +2,45 @@
 
 #include <gtest/gtest.h>
 #include <optional>
-#include <ostream>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace qv_commons {
 namespace {
 
-constexpr std::nullopt_t kAbsent = std::nullopt;
-using Part = std::optional<std::string_view>;
+class GoodURL : public testing::TestWithParam<std::string> {};
 
-struct Good {
-  std::string text;
-  std::string_view scheme;
-  Part userinfo;
-  Part host;
-  Part port;
-  std::string_view path;
-  Part query;
-  Part fragment;
-};
-
-void PrintTo(const Good& good, std::ostream* out) {
-  *out << good.text;
-}
-
-class GoodURL : public testing::TestWithParam<Good> {};
-
-TEST_P(GoodURL, HasTheseParts) {
-  const Good& good = GetParam();
-  const std::optional<URL> url = URL::parse(good.text);
+TEST_P(GoodURL, KeepsItsText) {
+  const std::optional<URL> url = URL::parse(GetParam());
   ASSERT_TRUE(url);
-  EXPECT_EQ(url->text(), good.text);
-  EXPECT_EQ(url->scheme(), good.scheme);
-  EXPECT_EQ(url->userinfo(), good.userinfo);
-  EXPECT_EQ(url->host(), good.host);
-  EXPECT_EQ(url->port(), good.port);
-  EXPECT_EQ(url->path(), good.path);
-  EXPECT_EQ(url->query(), good.query);
-  EXPECT_EQ(url->fragment(), good.fragment);
+  EXPECT_EQ(url->text(), GetParam());
 }
 
 // RFC 3986, sections 1.1.2 and 3, and the base of the examples in 5.4.
 INSTANTIATE_TEST_SUITE_P(
     OfTheRfcsText, GoodURL,
-    testing::Values(Good{"ftp://ftp.is.co.za/rfc/rfc1808.txt", "ftp", kAbsent, "ftp.is.co.za",
-                         kAbsent, "/rfc/rfc1808.txt", kAbsent, kAbsent},
-                    Good{"http://www.ietf.org/rfc/rfc2396.txt", "http", kAbsent, "www.ietf.org",
-                         kAbsent, "/rfc/rfc2396.txt", kAbsent, kAbsent},
-                    Good{"ldap://[2001:db8::7]/c=GB?objectClass?one", "ldap", kAbsent,
-                         "[2001:db8::7]", kAbsent, "/c=GB", "objectClass?one", kAbsent},
-                    Good{"mailto:John.Doe@example.com", "mailto", kAbsent, kAbsent, kAbsent,
-                         "John.Doe@example.com", kAbsent, kAbsent},
-                    Good{"news:comp.infosystems.www.servers.unix", "news", kAbsent, kAbsent,
-                         kAbsent, "comp.infosystems.www.servers.unix", kAbsent, kAbsent},
-                    Good{"tel:+1-816-555-1212", "tel", kAbsent, kAbsent, kAbsent, "+1-816-555-1212",
-                         kAbsent, kAbsent},
-                    Good{"telnet://192.0.2.16:80/", "telnet", kAbsent, "192.0.2.16", "80", "/",
-                         kAbsent, kAbsent},
-                    Good{"urn:example:animal:ferret:nose", "urn", kAbsent, kAbsent, kAbsent,
-                         "example:animal:ferret:nose", kAbsent, kAbsent},
-                    Good{"foo://example.com:8042/over/there?name=ferret#nose", "foo", kAbsent,
-                         "example.com", "8042", "/over/there", "name=ferret", "nose"},
-                    Good{"http://a/b/c/d;p?q", "http", kAbsent, "a", kAbsent, "/b/c/d;p", "q",
-                         kAbsent}));
+    testing::Values("ftp://ftp.is.co.za/rfc/rfc1808.txt", "http://www.ietf.org/rfc/rfc2396.txt",
+                    "ldap://[2001:db8::7]/c=GB?objectClass?one", "mailto:John.Doe@example.com",
+                    "news:comp.infosystems.www.servers.unix", "tel:+1-816-555-1212",
+                    "telnet://192.0.2.16:80/", "urn:example:animal:ferret:nose",
+                    "foo://example.com:8042/over/there?name=ferret#nose", "http://a/b/c/d;p?q"));
 
 // What the references of RFC 3986, section 5.4, resolve to, and those that are absolute already.
-INSTANTIATE_TEST_SUITE_P(
-    OfTheRfcsResolutions, GoodURL,
-    testing::Values(
-        Good{"g:h", "g", kAbsent, kAbsent, kAbsent, "h", kAbsent, kAbsent},
-        Good{"http:g", "http", kAbsent, kAbsent, kAbsent, "g", kAbsent, kAbsent},
-        Good{"http://g", "http", kAbsent, "g", kAbsent, "", kAbsent, kAbsent},
-        Good{"http://a/b/c/d;p?y", "http", kAbsent, "a", kAbsent, "/b/c/d;p", "y", kAbsent},
-        Good{"http://a/b/c/d;p?q#s", "http", kAbsent, "a", kAbsent, "/b/c/d;p", "q", "s"},
-        Good{"http://a/b/c/g;x?y#s", "http", kAbsent, "a", kAbsent, "/b/c/g;x", "y", "s"},
-        Good{"http://a/b/c/g..", "http", kAbsent, "a", kAbsent, "/b/c/g..", kAbsent, kAbsent},
-        Good{"http://a/b/c/g;x=1/y", "http", kAbsent, "a", kAbsent, "/b/c/g;x=1/y", kAbsent,
-             kAbsent},
-        Good{"http://a/b/c/g?y/../x", "http", kAbsent, "a", kAbsent, "/b/c/g", "y/../x", kAbsent},
-        Good{"http://a/b/c/g#s/../x", "http", kAbsent, "a", kAbsent, "/b/c/g", kAbsent, "s/../x"}));
+INSTANTIATE_TEST_SUITE_P(OfTheRfcsResolutions, GoodURL,
+                         testing::Values("g:h", "http:g", "http://g", "http://a/b/c/d;p?y",
+                                         "http://a/b/c/d;p?q#s", "http://a/b/c/g;x?y#s",
+                                         "http://a/b/c/g..", "http://a/b/c/g;x=1/y",
+                                         "http://a/b/c/g?y/../x", "http://a/b/c/g#s/../x"));
 
 INSTANTIATE_TEST_SUITE_P(
     OfTheGrammar, GoodURL,
-    testing::Values(
-        Good{"a:", "a", kAbsent, kAbsent, kAbsent, "", kAbsent, kAbsent},
-        Good{"a:?#", "a", kAbsent, kAbsent, kAbsent, "", "", ""},
-        Good{"a://", "a", kAbsent, "", kAbsent, "", kAbsent, kAbsent},
-        Good{"a://@:", "a", "", "", "", "", kAbsent, kAbsent},
-        Good{"a://?q", "a", kAbsent, "", kAbsent, "", "q", kAbsent},
-        Good{"a:/b//c", "a", kAbsent, kAbsent, kAbsent, "/b//c", kAbsent, kAbsent},
-        Good{"a:////", "a", kAbsent, "", kAbsent, "//", kAbsent, kAbsent},
-        Good{"file:///etc/hosts", "file", kAbsent, "", kAbsent, "/etc/hosts", kAbsent, kAbsent},
-        Good{"A1+-.://h", "A1+-.", kAbsent, "h", kAbsent, "", kAbsent, kAbsent},
-        Good{"HTTP://EXAMPLE.com/%7Efoo/%aF", "HTTP", kAbsent, "EXAMPLE.com", kAbsent,
-             "/%7Efoo/%aF", kAbsent, kAbsent},
-        Good{"ftp://user:pass%20word@h:021/", "ftp", "user:pass%20word", "h", "021", "/", kAbsent,
-             kAbsent},
-        Good{"http://h:99999999999999999999/", "http", kAbsent, "h", "99999999999999999999", "/",
-             kAbsent, kAbsent},
-        Good{"http://%e4%bd%a0-._~!$&'()*+,;=/", "http", kAbsent,
-             "%e4%bd%a0-._~!$&'()*+,;=", kAbsent, "/", kAbsent, kAbsent},
-        Good{"http://h/-._~!$&'()*+,;=:@", "http", kAbsent, "h", kAbsent, "/-._~!$&'()*+,;=:@",
-             kAbsent, kAbsent},
-        Good{"http://h?-._~!$&'()*+,;=:@/?", "http", kAbsent, "h", kAbsent, "",
-             "-._~!$&'()*+,;=:@/?", kAbsent},
-        Good{"http://h#-._~!$&'()*+,;=:@/?", "http", kAbsent, "h", kAbsent, "", kAbsent,
-             "-._~!$&'()*+,;=:@/?"},
-        Good{"http://h/a:b@c://d", "http", kAbsent, "h", kAbsent, "/a:b@c://d", kAbsent, kAbsent},
-        Good{"http://u@[::1]:8080/", "http", "u", "[::1]", "8080", "/", kAbsent, kAbsent},
-        Good{"http://[v1F.a:b;~]:/", "http", kAbsent, "[v1F.a:b;~]", "", "/", kAbsent, kAbsent},
-        Good{"http://999.1.2.3/", "http", kAbsent, "999.1.2.3", kAbsent, "/", kAbsent, kAbsent}));
+    testing::Values("a:", "a:?#", "a://", "a://@:", "a://?q", "a:/b//c", "a:////",
+                    "file:///etc/hosts", "A1+-.://h", "HTTP://EXAMPLE.com/%7Efoo/%aF",
+                    "ftp://user:pass%20word@h:021/", "http://h:99999999999999999999/",
+                    "http://%e4%bd%a0-._~!$&'()*+,;=/", "http://h/-._~!$&'()*+,;=:@",
+                    "http://h?-._~!$&'()*+,;=:@/?", "http://h#-._~!$&'()*+,;=:@/?",
+                    "http://h/a:b@c://d", "http://u@[::1]:8080/", "http://[v1F.a:b;~]:/",
+                    "http://999.1.2.3/"));
 
 class BadURL : public testing::TestWithParam<std::string> {};
 
@@ -155,6 +82,39 @@ INSTANTIATE_TEST_SUITE_P(IPvFuture, BadURL,
                                          "http://[vg.a]/", "http://[v]/", "http://[1.a]/",
                                          "http://[v1.%41]/", "http://[v1.a@]/"));
 
+class GoodIPv6Address : public testing::TestWithParam<std::string> {};
+
+TEST_P(GoodIPv6Address, CanBeAHost) {
+  EXPECT_TRUE(URL::parse("http://[" + GetParam() + "]/"));
+}
+
+// One for each alternative of the rule "IPv6address", at its longest and shortest.
+INSTANTIATE_TEST_SUITE_P(
+    OfTheGrammar, GoodIPv6Address,
+    testing::Values("1:2:3:4:5:6:7:8", "1:2:3:4:5:6:192.0.2.16", "::2:3:4:5:6:7:8",
+                    "::2:3:4:5:6:192.0.2.16", "1::3:4:5:6:7:8", "::3:4:5:6:7:8",
+                    "1::3:4:5:6:192.0.2.16", "1:2::4:5:6:7:8", "::4:5:6:7:8", "1:2:3::5:6:7:8",
+                    "::5:6:7:8", "1:2:3:4::6:7:8", "::6:7:8", "1:2:3:4:5::7:8", "::7:8",
+                    "1:2:3:4:5::192.0.2.16", "::192.0.2.16", "1:2:3:4:5:6::8", "::8",
+                    "1:2:3:4:5:6:7::", "1::", "::", "2001:db8::7", "ABCD:ef01::0", "0000::00",
+                    "::0.0.0.0", "::255.255.255.255", "::199.249.99.10"));
+
+class BadIPv6Address : public testing::TestWithParam<std::string> {};
+
+TEST_P(BadIPv6Address, IsRefused) {
+  EXPECT_FALSE(URL::parse("http://[" + GetParam() + "]/"));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    OfTheGrammar, BadIPv6Address,
+    testing::Values("", ":", ":::", "1", "1:2:3:4:5:6:7", "1:2:3:4:5:6:7:8:9",
+                    "1:2:3:4:5:6:7:", ":1:2:3:4:5:6:7", "1:2:3:4:5:6:7:8:", ":1:2:3:4:5:6:7:8",
+                    "1:2:3:4:5:6:7:8::", "::1:2:3:4:5:6:7:8", "1::2::3", "1:::2",
+                    "::1:", ":1::", "12345::", "::g", "1:2:3:4:5:6:7:192.0.2.16", "192.0.2.16",
+                    "192.0.2.16::", "::192.0.2.16:1", "1:2:3:4:5:192.0.2.16", "::192.0.2",
+                    "::192.0.2.16.1", "::256.0.0.0", "::192.0.2.", "::.0.2.16", "::192..2.16",
+                    "::01.0.0.0", "::1000.0.0.0", "::1.2.3.a", "fe80::1%25en0"));
+
 TEST(URL, RefusesEveryCharacterThatNeedsEncoding) {
   std::vector<unsigned char> refused = {' ', '"', '<', '>', '\\', '^', '`', '{', '|', '}', 0x7f};
   for (unsigned char c = 0; c < 0x20; ++c) refused.push_back(c);
@@ -180,15 +140,6 @@ TEST(URL, IsEqualByText) {
   EXPECT_EQ(URL::parse("http://a/b"), URL::parse("http://a/b"));
   EXPECT_NE(URL::parse("http://a/b"), URL::parse("HTTP://a/b"));
   EXPECT_NE(URL::parse("http://a/%7e"), URL::parse("http://a/~"));
-}
-
-TEST(URL, KeepsItsPartsWhenCopiedAndMoved) {
-  std::optional<URL> first = URL::parse("x://h/p");  // short enough to be stored inside the string
-  const URL copy = *first;
-  first.reset();
-  EXPECT_EQ(copy.host(), "h");
-  const URL moved = URL(copy);
-  EXPECT_EQ(moved.path(), "/p");
 }
 
 }  // namespace
