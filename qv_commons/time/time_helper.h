@@ -12,13 +12,14 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 namespace qv_commons {
 
 // The platform's plain integer: 64 bits wide, as `std::int64_t` is, though on some systems another
-// type.
-using PlatformInteger = std::ptrdiff_t;
-static_assert(sizeof(PlatformInteger) == 8);
+// type. Where a plain integer has 32 bits, it is `std::int64_t`.
+using PlatformInteger =
+    std::conditional_t<sizeof(std::ptrdiff_t) == 8, std::ptrdiff_t, std::int64_t>;
 
 class QV_TimeHelper {
  public:

@@ -146,6 +146,7 @@ constexpr bool kSame = std::is_same_v<Declared, Expected>;
 TEST(TimeHelper, KeepsTheTwoIntegerTypesApart) {
   EXPECT_TRUE((kSame<decltype(&QV_TimeHelper::currentTimeInMilliseconds), std::int64_t (*)()>));
   EXPECT_TRUE((kSame<decltype(&QV_TimeHelper::currentTimeInSeconds), PlatformInteger (*)()>));
+  EXPECT_EQ(sizeof(PlatformInteger), 8U);  // on systems of 32 bits, too
   EXPECT_TRUE(
       (kSame<decltype(&QV_TimeHelper::secondsToMinutes), std::int64_t (*)(std::int64_t, bool)>));
   EXPECT_TRUE(

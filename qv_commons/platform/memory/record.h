@@ -7,6 +7,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace qv_commons::memory {
@@ -36,7 +37,9 @@ class Record {
 
 // `text` in double quotes, for a line of the record.
 inline std::string quoted(std::string_view text) {
-  return "\"" + std::string(text) + "\"";
+  std::string line = "\"";
+  line.append(text).append("\"");
+  return line;
 }
 
 }  // namespace qv_commons::memory
