@@ -56,7 +56,7 @@ class Desktop {
   bool pick(double birth) {
     QWidget* gate = screenWith("datePicker");
     if (gate == nullptr) return false;
-    const QDate date = QDateTime::fromSecsSinceEpoch(static_cast<qint64>(birth), Qt::UTC).date();
+    const QDate date = QDateTime::fromSecsSinceEpoch(static_cast<qint64>(birth)).toUTC().date();
     for (desktop::Wheel* wheel : gate->findChildren<desktop::Wheel*>()) {
       if (wheel->field() == desktop::DateField::year) wheel->turnToNumber(date.year());
     }

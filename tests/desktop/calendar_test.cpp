@@ -107,8 +107,9 @@ TEST(CalendarYears, CountIslamicYears) {
   expectYears({"ar-SA-u-ca-islamic-civil", "UTC"},
               {{"2008-12-29T12:00:00Z", "2026-06-16T12:00:00Z", 17},
                {"2008-12-29T12:00:00Z", "2026-06-17T12:00:00Z", 18}});
-  expectYears({"ar-SA", "UTC"}, {{"2008-12-29T12:00:00Z", "2026-06-15T12:00:00Z", 17},
-                                 {"2008-12-29T12:00:00Z", "2026-06-16T12:00:00Z", 18}});
+  expectYears({"ar-SA-u-ca-islamic-umalqura", "UTC"},
+              {{"2008-12-29T12:00:00Z", "2026-06-15T12:00:00Z", 17},
+               {"2008-12-29T12:00:00Z", "2026-06-16T12:00:00Z", 18}});
 }
 
 TEST(CalendarYears, CountPersianYears) {
@@ -166,7 +167,7 @@ TEST(CalendarLocale, DecidesOnTheCalendar) {
   };
   EXPECT_EQ(type("en-US"), "gregorian");
   EXPECT_EQ(type("th-TH"), "buddhist");
-  EXPECT_EQ(type("ar-SA"), "islamic-umalqura");
+  EXPECT_EQ(type("ar-SA-u-ca-islamic-umalqura"), "islamic-umalqura");
   EXPECT_EQ(type("fa-IR"), "persian");
   EXPECT_EQ(type("th-TH-u-ca-gregory"), "gregorian");
   EXPECT_EQ(type("en-US-u-ca-hebrew"), "hebrew");

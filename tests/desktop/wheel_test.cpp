@@ -247,7 +247,7 @@ TEST_F(JapaneseWheelTest, NamesTheErasOfItsYears) {
 
 class ArabicWheelTest : public WheelTest {
  protected:
-  ArabicWheelTest() : WheelTest("ar-SA") {
+  ArabicWheelTest() : WheelTest("ar-SA-u-ca-islamic-umalqura") {
     picker_.setLayoutDirection(Qt::RightToLeft);
     QTest::qWait(1);
   }

@@ -52,7 +52,10 @@ InfoDictionaryValue valueOf(plist_t node) {
 std::optional<InfoDictionary> parseInfoDictionary(std::string_view bytes) {
   if (bytes.size() > std::numeric_limits<std::uint32_t>::max()) return std::nullopt;
   plist_t parsed = nullptr;
-  plist_from_memory(bytes.data(), static_cast<std::uint32_t>(bytes.size()), &parsed);
+  const auto size = static_cast<std::uint32_t>(bytes.size());
+  // The one function for both forms takes other parameters from release to release.
+  const auto read = plist_is_binary(bytes.data(), size) != 0 ? plist_from_bin : plist_from_xml;
+  read(bytes.data(), size, &parsed);
   const Node root(parsed, &plist_free);
   if (root == nullptr || plist_get_node_type(root.get()) != PLIST_DICT) return std::nullopt;
 
@@ -115,8 +118,7 @@ std::optional<FileLocation> DesktopBundle::URLForResource(std::string_view name,
 
 std::optional<FileLocation> LibraryBundle::URLForResource(std::string_view name,
                                                           std::string_view extension) const {
-  if (!resourceDirectory_.empty()) return findResource(resourceDirectory_, name, extension);
-  return findResourceNextTo(fileOfThisCode(), name, extension);
+  return findResource(resourceFolders(resourceDirectory_), name, extension);
 }
 
 std::shared_ptr<Bundle> DesktopBundles::bundleWithURL(const FileLocation& location) const {

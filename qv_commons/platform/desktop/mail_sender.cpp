@@ -57,7 +57,7 @@ MailSender::MailSender(const QString& program, const QStringList& arguments,
       &process_, &QProcess::errorOccurred, &process_,
       [this](QProcess::ProcessError error) {
         if (error != QProcess::FailedToStart) return;
-        finish("The mail program can't be started: " + toUtf8(process_.errorString()) + ".");
+        finish("The mail program " + toUtf8(process_.program()) + " can't be started.");
       },
       Qt::QueuedConnection);
   QObject::connect(&timer_, &QTimer::timeout, &timer_,
