@@ -13,6 +13,7 @@
 #include <gmock/gmock.h>
 
 #include "qv_commons/age_gate/age_gate_color_theme.h"
+#include "qv_commons/app_info/bundle_file_helper.h"
 #include "qv_commons/platform/desktop/desktop_style.h"
 #include "qv_commons/platform/desktop/layout_file.h"
 
@@ -233,9 +234,20 @@ class AgeGateBadLayoutTest : public AgeGateTest {
  protected:
   AgeGateBadLayoutTest() {
     fs::copy(QV_COMMONS_RESOURCES "/QV_Commons_iOS.bundle", bundle());
+    setResourceDirectory(bundle().parent_path());
+  }
+
+  void setResourceDirectory(const fs::path& directory) {
     DesktopSettings other = settings();
-    other.resourceDirectory = bundle().parent_path();
+    other.resourceDirectory = directory;
     restart(other);
+  }
+
+  // What is said of the missing layout of the age gate.
+  std::string missingAsSetTo(const fs::path& directory) const {
+    return "the layout QV_AgeGateViewController.ui is missing. DesktopSettings::resourceDirectory "
+           "is \"" +
+           directory.string() + "\"; searched:\n  " + layout().string() + "\n";
   }
 
   fs::path bundle() const { return temporary_.filePath("QV_Commons_iOS.bundle").toStdString(); }
@@ -261,12 +273,33 @@ using AgeGateBadLayoutDeathTest = AgeGateBadLayoutTest;
 
 TEST_F(AgeGateBadLayoutDeathTest, StopsWithoutTheLayout) {
   fs::remove(layout());
-  EXPECT_DEATH(startAgeGate(), "the layout QV_AgeGateViewController.ui is missing in its bundle");
+  EXPECT_DEATH(startAgeGate(), missingAsSetTo(bundle().parent_path()));
 }
 
 TEST_F(AgeGateBadLayoutDeathTest, StopsWithoutTheBundle) {
   fs::remove_all(bundle());
-  EXPECT_DEATH(startAgeGate(), "the layout QV_AgeGateViewController.ui is missing");
+  EXPECT_DEATH(startAgeGate(), missingAsSetTo(bundle().parent_path()));
+}
+
+TEST_F(AgeGateBadLayoutDeathTest, StopsWithoutTheLayoutInTheBundleThatTheHostNames) {
+  fs::remove(layout());
+  setResourceDirectory(bundle());
+  EXPECT_DEATH(startAgeGate(), missingAsSetTo(bundle()));
+}
+
+TEST_F(AgeGateBadLayoutDeathTest, StopsAtALayoutThatMayNotBeRead) {
+  if (geteuid() == 0) GTEST_SKIP() << "root may read everything";
+  fs::permissions(layout(), fs::perms::none);
+  EXPECT_DEATH(startAgeGate(), "the layout .*QV_AgeGateViewController.ui: Permission denied");
+}
+
+TEST_F(AgeGateBadLayoutTest, FindsTheBundleByItsOwnNameToo) {
+  for (const fs::path& named : {bundle(), bundle() / "", bundle().parent_path()}) {
+    setResourceDirectory(named);
+    const auto layout = QV_BundleFileHelper::getQVCommonsResourceBundle()->URLForResource(
+        "QV_AgeGateViewController", "ui");
+    EXPECT_EQ(layout.value_or("nowhere"), this->layout()) << named;
+  }
 }
 
 TEST_F(AgeGateBadLayoutDeathTest, StopsAtALayoutThatIsCutOff) {

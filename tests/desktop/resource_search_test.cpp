@@ -1,12 +1,14 @@
 #include "qv_commons/platform/desktop/resource_search.h"
 
-#include <QCoreApplication>
+#include <QFile>
 #include <QTemporaryDir>
 #include <fstream>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "qv_commons/app_info/bundle_file_helper.h"
+#include "qv_commons/platform/desktop/desktop_bundle.h"
+#include "qv_commons/platform/desktop/layout_search.h"
 
 #include "tests/desktop/age_gate_fixture.h"
 
@@ -52,7 +54,8 @@ TEST_F(ResourceSearchTest, FindsTheBundleOfAnInstalledProgramWhereverItHasBeenMo
   make("opt/notes/share/qv_commons/QV_Commons_iOS.bundle/a.ui");
   fs::create_directories(root_ / "opt/notes/bin");
   const auto search = [this](const char* prefix, const char* program) {
-    return findResourceNextTo(root_ / prefix / program, "QV_Commons_iOS", "bundle");
+    return findResource(resourceFoldersNextTo(root_ / prefix / program), "QV_Commons_iOS",
+                        "bundle");
   };
   const std::string bundle = "share/qv_commons/QV_Commons_iOS.bundle";
   for (const char* program : {"bin/notes", "lib/libnotes.so", "lib/x86_64-linux-gnu/libnotes.so",
@@ -67,8 +70,36 @@ TEST_F(ResourceSearchTest, FindsTheBundleOfAnInstalledProgramWhereverItHasBeenMo
 TEST_F(ResourceSearchTest, PrefersTheBundleInTheProgramsOwnFolder) {
   make("share/qv_commons/QV_Commons_iOS.bundle/a.ui");
   make("bin/QV_Commons_iOS.bundle/a.ui");
-  EXPECT_EQ(findResourceNextTo(root_ / "bin/notes", "QV_Commons_iOS", "bundle"),
+  EXPECT_EQ(findResource(resourceFoldersNextTo(root_ / "bin/notes"), "QV_Commons_iOS", "bundle"),
             root_ / "bin/QV_Commons_iOS.bundle");
+}
+
+TEST_F(ResourceSearchTest, TakesTheLibrarysOwnLayoutsLast) {
+  const std::string ownLayout = ":/qv_commons/QV_AgeGateViewController.ui";
+  EXPECT_EQ(findLayout("QV_AgeGateViewController", nullptr, ""), ownLayout);
+  LibraryBundle empty(root_);
+  EXPECT_EQ(findLayout("QV_AgeGateViewController", &empty, ""), ownLayout);
+  const std::string onDisk = make("QV_AgeGateViewController.ui");
+  EXPECT_EQ(findLayout("QV_AgeGateViewController", &empty, ""), onDisk);
+}
+
+TEST_F(ResourceSearchTest, HasTheSameLayoutsInsideTheLibraryAsInItsBundle) {
+  for (const std::string name : {"QV_AgeGateViewController", "QV_AgeGateRefusedViewController"}) {
+    QFile inside(QString::fromStdString(findLayout(name, nullptr, "")));
+    QFile onDisk(
+        QString::fromStdString(QV_COMMONS_RESOURCES "/QV_Commons_iOS.bundle/" + name + ".ui"));
+    ASSERT_TRUE(inside.open(QIODevice::ReadOnly) && onDisk.open(QIODevice::ReadOnly)) << name;
+    EXPECT_EQ(inside.readAll(), onDisk.readAll());
+  }
+}
+
+TEST(ResourceSearchDeathTest, NamesEveryPlaceThatWasSearchedForALayout) {
+  const std::string own = fs::read_symlink("/proc/self/exe").parent_path();
+  EXPECT_DEATH(findLayout("Other", nullptr, ""),
+               "the layout Other.ui is missing. DesktopSettings::resourceDirectory is \"\"; "
+               "searched:\n  " +
+                   own + "/QV_Commons_iOS.bundle/Other.ui\n  " + own +
+                   "/share/qv_commons/QV_Commons_iOS.bundle/Other.ui\n(.*\n)+  the library itself");
 }
 
 TEST(FileOfThisCode, IsTheProgramThatRuns) {

@@ -40,10 +40,10 @@ class DesktopBundle final : public Bundle {
   InfoDictionary info_;
 };
 
-// The folders in which the library's resources are, next to its code: no values, files alone.
+// The folders in which the library's resource bundle may be: no values, files alone.
 class LibraryBundle final : public Bundle {
  public:
-  // `resourceDirectory` takes the place of those folders, unless it is empty.
+  // The host's setting of that name.
   explicit LibraryBundle(std::string resourceDirectory)
       : resourceDirectory_(std::move(resourceDirectory)) {}
 

@@ -11,8 +11,8 @@ class DesktopLayoutLoader final : public LayoutLoader {
   DesktopLayoutLoader(SharedContext context, const ScreenServices& services)
       : context_(std::move(context)), services_(services) {}
 
-  // A bundle that isn't there, or has no `name`.ui, is a fatal error here; a file that can't be
-  // read or makes no sense is one when the screen is shown.
+  // A layout that findLayout doesn't find is a fatal error here; a file that can't be read or makes
+  // no sense is one when the screen is shown.
   std::shared_ptr<LayoutScreen> initWithNibName(std::string_view name,
                                                 std::shared_ptr<Bundle> bundle,
                                                 const LayoutScreenFactory& make) override;

@@ -33,9 +33,9 @@ struct DesktopSettings {
   // StoreKit, the receipt is expected there as StoreKit/receipt. Empty: a bundle without values.
   std::string bundleDirectory = {};
 
-  // Where the library's resource bundle is, for a host that keeps it somewhere else than next to
-  // its own program or library. Empty: there, as share/qv_commons/QV_Commons_iOS.bundle of the same
-  // prefix or in the program's own folder.
+  // The library's resource bundle, QV_Commons_iOS.bundle, or the folder around it, for a host that
+  // brings layouts of its own. Empty: in the folder of the program or library that this code is
+  // linked into, or share/qv_commons of the same prefix; last, the layouts inside the library.
   std::string resourceDirectory = {};
 
   // Where what lasts is kept, the drafts in its folder "drafts", the user defaults in a file named

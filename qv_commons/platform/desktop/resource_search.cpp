@@ -31,15 +31,29 @@ std::optional<std::string> findResource(const fs::path& directory, std::string_v
   return path.string();
 }
 
-std::optional<std::string> findResourceNextTo(const fs::path& program, std::string_view name,
-                                              std::string_view extension) {
-  fs::path folder = program.parent_path();
-  for (int level = 0; level <= kFoldersAbove && !folder.empty(); ++level) {
+std::optional<std::string> findResource(const std::vector<fs::path>& folders, std::string_view name,
+                                        std::string_view extension) {
+  for (const fs::path& folder : folders) {
     if (auto found = findResource(folder, name, extension)) return found;
-    if (auto found = findResource(folder / "share" / "qv_commons", name, extension)) return found;
-    folder = folder == folder.parent_path() ? fs::path() : folder.parent_path();
   }
   return std::nullopt;
+}
+
+std::vector<fs::path> resourceFoldersNextTo(const fs::path& program) {
+  std::vector<fs::path> folders;
+  fs::path folder = program.parent_path();
+  for (int level = 0; level <= kFoldersAbove && !folder.empty(); ++level) {
+    folders.push_back(folder);
+    folders.push_back(folder / "share" / "qv_commons");
+    folder = folder == folder.parent_path() ? fs::path() : folder.parent_path();
+  }
+  return folders;
+}
+
+std::vector<fs::path> resourceFolders(const std::string& resourceDirectory) {
+  if (resourceDirectory.empty()) return resourceFoldersNextTo(fileOfThisCode());
+  const fs::path named = fs::path(resourceDirectory + "/").lexically_normal().parent_path();
+  return {named.filename() == kResourceBundle ? named.parent_path() : named};
 }
 
 // A line of the file is "from-to permissions offset device inode path", with hexadecimal addresses.
