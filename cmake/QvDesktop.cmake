@@ -1,48 +1,18 @@
-# Whether the desktop adapter is built, and what it is made of.
-#
-# Sets QV_COMMONS_HAVE_DESKTOP. QV_COMMONS_DESKTOP=AUTO goes without the adapter where a package is
-# missing and says which; ON makes that an error.
-
+# Whether the desktop adapter is built, in QV_COMMONS_HAVE_DESKTOP.
 set(QV_COMMONS_HAVE_DESKTOP OFF)
 if(NOT QV_COMMONS_DESKTOP)
   return()
 endif()
-
-# Hosts that add this project as a folder link these through the adapter.
-set(CMAKE_FIND_PACKAGE_TARGETS_GLOBAL ON)
-set(missing "")
-foreach(module Widgets UiTools DBus)
-  find_package(Qt6${module} 6.4 QUIET)
-  if(NOT Qt6${module}_FOUND)
-    list(APPEND missing "Qt6 ${module}")
-  endif()
-endforeach()
-
-find_package(PkgConfig QUIET)
-foreach(package gmime-3.0 libplist-2.0)
-  if(PkgConfig_FOUND)
-    pkg_check_modules(${package} QUIET IMPORTED_TARGET GLOBAL ${package})
-  endif()
-  if(NOT TARGET PkgConfig::${package})
-    list(APPEND missing ${package})
-  endif()
-endforeach()
-
-find_package(ICU QUIET COMPONENTS i18n uc)
-if(NOT ICU_FOUND)
-  list(APPEND missing ICU)
+if(QV_COMMONS_DESKTOP STREQUAL "AUTO" AND NOT CMAKE_SYSTEM_NAME STREQUAL "Linux")
+  return()  # what is found there is not what the adapter is made for
 endif()
-find_package(SQLite3 QUIET)
-if(NOT SQLite3_FOUND)
-  list(APPEND missing SQLite3)
-endif()
-unset(CMAKE_FIND_PACKAGE_TARGETS_GLOBAL)
-
-list(JOIN missing ", " missing)
-if(NOT missing)
+include(QvDesktopPackages)
+if(NOT qv_desktop_missing)
   set(QV_COMMONS_HAVE_DESKTOP ON)
+  qv_builds("desktop adapter (Qt ${Qt6Widgets_VERSION})")
 elseif(QV_COMMONS_DESKTOP STREQUAL "AUTO")
-  message(STATUS "The desktop adapter is left out; not found: ${missing}")
+  qv_leaves_out("desktop adapter" ${qv_desktop_missing})
 else()
-  message(FATAL_ERROR "The desktop adapter needs what was not found: ${missing}")
+  list(JOIN qv_desktop_missing ", " qv_desktop_missing)
+  message(FATAL_ERROR "The desktop adapter needs what was not found: ${qv_desktop_missing}")
 endif()

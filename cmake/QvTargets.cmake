@@ -27,6 +27,6 @@ function(qv_add_library name export)
                                             $<INSTALL_INTERFACE:include>)
   qv_compile_options(${name})
   # Nobody replaces functions of these libraries at load time, so g++ may inline them, as clang++ does.
-  target_compile_options(${name} PRIVATE -fno-semantic-interposition)
+  target_compile_options(${name} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-semantic-interposition>)
   set_property(GLOBAL APPEND PROPERTY QV_COMMONS_LIBRARIES ${name})
 endfunction()
