@@ -9,6 +9,8 @@ test_packages=(git clang clang-format clang-tidy llvm libclang-rt-dev lcov libgt
 bench_packages=(libbenchmark-dev libfmt-dev libabsl-dev libssl-dev libglib2.0-dev libboost-dev)
 ios_packages=(clang libgnustep-base-dev clang-19 libc++-19-dev musl-dev python3-clang
   python3-kiwisolver python3-pil)
+other_packages=(clang clang-19 libc++-19-dev llvm musl-dev googletest g++-i686-linux-gnu
+  g++-arm-linux-gnueabihf g++-aarch64-linux-gnu qemu-user emscripten)
 
 missing_packages() {
   dpkg-query -W -f '${Package} ${db:Status-Status}\n' "$@" 2>/dev/null | awk '$2 == "installed" { print $1 }' |
