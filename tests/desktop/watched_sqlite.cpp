@@ -67,6 +67,7 @@ int Sync(sqlite3_file* file, int flags) {
 
 int Delete(sqlite3_vfs*, const char* name, int sync) {
   change();
+  if (sync == 0) ++seen.unsyncedDeletes;
   return real->xDelete(real, name, sync);
 }
 

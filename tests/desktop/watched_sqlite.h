@@ -10,6 +10,7 @@ struct FileTraffic {
   int opens = 0;
   int reads = 0;
   int writes = 0;  // whatever changes a file: write, truncate, sync, delete
+  int unsyncedDeletes = 0;  // the folder is left to the system
 };
 
 // While it lives, every SQLite file that is opened is watched.

@@ -2,12 +2,11 @@
 #pragma once
 
 #include <QObject>
-#include <QStandardPaths>
 #include <map>
 #include <memory>
 
+#include "qv_commons/platform/desktop/data_folder.h"
 #include "qv_commons/platform/desktop/desktop_platform.h"
-#include "qv_commons/platform/desktop/qt_text.h"
 
 namespace qv_commons::desktop {
 
@@ -25,7 +24,7 @@ struct DesktopContext {
   // Where what lasts is kept.
   std::string dataDirectory() const {
     if (!settings.dataDirectory.empty()) return settings.dataDirectory;
-    return toUtf8(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+    return appDataFolder();
   }
 
   void reportError(const std::string& problem) const {

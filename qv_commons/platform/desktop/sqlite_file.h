@@ -1,16 +1,16 @@
 // One SQLite file of boolean values by key, as the user defaults use it.
 //
-// It is opened for reading at the first read and made (mode 0600) at the first write. Several
-// processes may use the same file at once. Main thread only.
+// Several processes may use the same file at once. Main thread only.
 #pragma once
 
+#include <chrono>
 #include <cstdint>
-#include <functional>
 #include <map>
 #include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
+
+#include "qv_commons/platform/desktop/outcome.h"
 
 struct sqlite3;
 
@@ -18,41 +18,50 @@ namespace qv_commons::desktop {
 
 class SqliteFile {
  public:
-  using ErrorHandler = std::function<void(const std::string& message)>;
-
-  // `report` gets one sentence, with the path and the reason, for each failure; may be empty.
-  SqliteFile(std::string path, ErrorHandler report);
+  explicit SqliteFile(std::string path);
   ~SqliteFile();
 
   using Values = std::map<std::string, bool, std::less<>>;
 
-  // All that the file holds; empty where there is no file. A damaged file is set aside first.
-  // Nothing where the file could not be read.
-  std::optional<Values> read();
+  // `busy` while another process writes, `absent` where there is no file yet.
+  enum class State : std::uint8_t { whole, absent, busy, failed };
 
-  // Writes all of `values` in one transaction. False where nothing was written.
-  bool write(const Values& values);
+  struct Contents {
+    State state = State::failed;
+    Values values = {};  // all that the file holds, if it is whole
+    Failure failure = {};
+  };
+
+  // Waits for nobody. A damaged file, or one that is not of this kind, is renamed to
+  // `<file>.damaged-1` (2, 3 ... if that exists): it is then absent, and the failure tells of it.
+  Contents read();
+
+  // In one transaction, which is on the disk when this returns: writes all of `changes`, and of
+  // `known` what the file lacks. Makes the file (mode 0600) where there is none. Waits for other
+  // processes for as long as `patience`.
+  Failure write(const Values& changes, const Values& known, std::chrono::milliseconds patience);
 
  private:
-  enum class Outcome : std::uint8_t { done, absent, failed, damaged };
+  enum class Outcome : std::uint8_t { done, absent, busy, failed, damaged };
   enum class Mode : std::uint8_t { open, openOrMake };
 
   Outcome open(Mode mode);
   Outcome tryRead(Values& values);
-  Outcome tryWrite(const Values& values);
-  Outcome insert(std::string_view key, bool value);
+  Outcome readRows(Values& values);
+  Outcome tryWrite(const Values& changes, const Values& known, std::chrono::milliseconds patience);
+  Outcome insert(const char* statement, const Values& values);
   Outcome run(const char* statement);
   Outcome outcomeOf(int code);
-  void setAsideIfDamaged();
-  bool moveAside();
-  void report(const std::string& what) const;
+  Outcome fail(const std::string& why);
+  Outcome setAsideIfDamaged(Values& values);
+  Outcome moveAside();
 
   struct Close {
     void operator()(sqlite3* database) const;
   };
 
   std::string path_;
-  ErrorHandler report_;
+  std::string failure_;  // the sentence about the last outcome that was not `done`
   std::unique_ptr<sqlite3, Close> database_;
 };
 

@@ -1,14 +1,20 @@
 #include "qv_commons/platform/desktop/sqlite_user_defaults.h"
 
-#include <cerrno>
 #include <filesystem>
-#include <sys/stat.h>
-#include <system_error>
+#include <thread>
 #include <utility>
+
+#include "qv_commons/platform/desktop/private_folder.h"
 
 namespace qv_commons::desktop {
 
 namespace {
+
+using std::chrono::milliseconds;
+
+constexpr milliseconds kPatience(250);
+constexpr milliseconds kPause(5);          // between two attempts to read
+constexpr milliseconds kRetryAfter(2000);  // a write that has failed
 
 std::string fileName(const std::string& identifier) {
   std::string name = identifier.empty() ? "unnamed" : identifier;
@@ -18,24 +24,17 @@ std::string fileName(const std::string& identifier) {
   return name + ".defaults";
 }
 
-// For the user alone, as the XDG rules for data folders ask.
-bool makeFolder(const std::string& folder, std::error_code& error) {
-  const std::filesystem::path path(folder);
-  if (std::filesystem::is_directory(path, error)) return true;
-  std::filesystem::create_directories(path.parent_path(), error);
-  if (error) return false;
-  if (mkdir(folder.c_str(), S_IRWXU) == 0 || errno == EEXIST) return true;
-  error.assign(errno, std::generic_category());
-  return false;
-}
-
 }  // namespace
 
 SqliteUserDefaults::SqliteUserDefaults(const std::string& folder, const std::string& identifier,
                                        ErrorHandler report)
     : folder_(folder),
       report_(std::move(report)),
-      file_(std::filesystem::path(folder) / fileName(identifier), report_) {}
+      file_(std::filesystem::path(folder) / fileName(identifier)),
+      copy_(std::filesystem::path(folder) / (fileName(identifier) + ".copy")) {
+  retry_.setInterval(kRetryAfter);
+  QObject::connect(&retry_, &QTimer::timeout, &retry_, [this] { commitWith(milliseconds(0)); });
+}
 
 SqliteUserDefaults::~SqliteUserDefaults() {
   commit();
@@ -43,9 +42,9 @@ SqliteUserDefaults::~SqliteUserDefaults() {
 
 bool SqliteUserDefaults::boolForKey(std::string_view key) const {
   if (const auto found = waiting_.find(key); found != waiting_.end()) return found->second;
-  if (auto values = file_.read()) read_ = *std::move(values);
-  const auto found = read_.find(key);
-  return found != read_.end() && found->second;
+  refresh();
+  const auto found = known_.find(key);
+  return found != known_.end() && found->second;
 }
 
 void SqliteUserDefaults::setBool(bool value, std::string_view key) {
@@ -53,13 +52,75 @@ void SqliteUserDefaults::setBool(bool value, std::string_view key) {
 }
 
 void SqliteUserDefaults::commit() {
+  commitWith(kPatience);
+}
+
+void SqliteUserDefaults::commitWith(milliseconds patience) {
   if (waiting_.empty()) return;
-  std::error_code error;
-  if (!makeFolder(folder_, error)) {
-    if (report_) report_("The settings' folder " + folder_ + ": " + error.message());
+  if (const Failure failure = write(patience)) {
+    tell(failure);
+    retry_.start();
     return;
   }
-  if (file_.write(waiting_)) waiting_.clear();
+  for (const auto& [key, value] : waiting_) known_.insert_or_assign(key, value);
+  waiting_.clear();
+  told_.clear();
+  retry_.stop();
+}
+
+// Both or a failure: what a user is told must be there whichever file the next start reads.
+Failure SqliteUserDefaults::write(milliseconds patience) {
+  if (Failure failure = makePrivateFolder(folder_)) return failure;
+  if (known_.empty()) refresh();
+  if (Failure failure = writeTo(file_, patience)) return failure;
+  return writeTo(copy_, patience);
+}
+
+Failure SqliteUserDefaults::writeTo(SqliteFile& file, milliseconds patience) {
+  Failure failure = file.write(waiting_, known_, patience);
+  if (!failure) return std::nullopt;
+  Failure damage;
+  if (take(file, damage) != SqliteFile::State::absent) return failure;
+  tell(damage);
+  return file.write(waiting_, known_, patience);
+}
+
+void SqliteUserDefaults::refresh() const {
+  const auto end = std::chrono::steady_clock::now() + (couldRead_ ? kPatience : milliseconds(0));
+  Failure failure;
+  while (!(couldRead_ = tryToRead(failure)) && std::chrono::steady_clock::now() < end) {
+    std::this_thread::sleep_for(kPause);
+  }
+  if (!couldRead_) tell(failure);
+}
+
+// From the file, or else its copy.
+bool SqliteUserDefaults::tryToRead(Failure& failure) const {
+  using State = SqliteFile::State;
+  Failure ofFile;
+  const State file = take(file_, ofFile);
+  if (file == State::whole) return true;
+  Failure ofCopy;
+  const State copy = take(copy_, ofCopy);
+  if (file == State::absent) tell(ofFile);  // it was damaged
+  if (copy == State::absent) tell(ofCopy);
+  if (copy == State::whole) {
+    if (file == State::failed) tell(ofFile);
+    return true;
+  }
+  failure = file == State::absent ? ofCopy : ofFile;
+  return file == State::absent && copy == State::absent;
+}
+
+SqliteFile::State SqliteUserDefaults::take(SqliteFile& file, Failure& failure) const {
+  SqliteFile::Contents contents = file.read();
+  for (const auto& [key, value] : contents.values) known_.insert_or_assign(key, value);
+  failure = std::move(contents.failure);
+  return contents.state;
+}
+
+void SqliteUserDefaults::tell(const Failure& failure) const {
+  if (failure && told_.insert(*failure).second && report_) report_(*failure);
 }
 
 }  // namespace qv_commons::desktop

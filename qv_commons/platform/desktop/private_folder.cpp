@@ -1,0 +1,34 @@
+#include "qv_commons/platform/desktop/private_folder.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <filesystem>
+#include <sys/stat.h>
+#include <system_error>
+
+#include "qv_commons/platform/desktop/file_descriptor.h"
+
+namespace qv_commons::desktop {
+
+Failure makePrivateFolder(const std::string& folder) {
+  const std::filesystem::path path(folder);
+  std::error_code error;
+  if (std::filesystem::is_directory(path, error)) return std::nullopt;
+  const std::filesystem::path above = path.parent_path();
+  if (!above.empty() && above != path) {
+    if (Failure failure = makePrivateFolder(above)) return failure;
+  }
+  if (::mkdir(folder.c_str(), S_IRWXU) == 0) return syncFolder(above.empty() ? "." : above);
+  const int reason = errno == EEXIST ? ENOTDIR : errno;
+  // Another process may have made it meanwhile.
+  if (std::filesystem::is_directory(path, error)) return std::nullopt;
+  return "The folder " + folder + " can't be made: " + describeError(reason) + ".";
+}
+
+Failure syncFolder(const std::string& folder) {
+  const FileDescriptor directory(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (directory.isOpen() && ::fsync(directory.number()) == 0) return std::nullopt;
+  return "The folder " + folder + " can't be written: " + describeError(errno) + ".";
+}
+
+}  // namespace qv_commons::desktop
