@@ -63,6 +63,16 @@ TEST_F(ComposerWindows, TabGoesThroughFieldsAndButtonsInTheirOrder) {
   EXPECT_THAT(order, ElementsAre("body", "save", "send", "cancel", "to", "subject", "body"));
 }
 
+TEST_F(ComposerWindows, ShiftAndReturnGiveALineLikeReturn) {
+  open();
+  press(*composer_, Qt::Key_A);
+  press(*composer_, Qt::Key_Return, Qt::ShiftModifier);
+  press(*composer_, Qt::Key_B);
+  press(*composer_, Qt::Key_Enter, Qt::ShiftModifier | Qt::KeypadModifier);
+  EXPECT_EQ(find<QPlainTextEdit>(*composer_, "body").document()->toRawText(),
+            QString("Reason:\u2029a\u2029b\u2029\u2029App: x\u2029"));
+}
+
 TEST_F(ComposerWindows, ReturnInAFieldDoesNotSend) {
   open();
   click(*composer_, "subject");
@@ -116,7 +126,7 @@ TEST_F(ComposerWindows, EscapeAndTheCloseButtonKeepWhatWasTyped) {
   windowOf(*composer_).close();
   settle();
   EXPECT_TRUE(isOpen());
-  EXPECT_EQ(body(), "xReason:\n\nApp: x\n");
+  EXPECT_EQ(body(), "Reason:\nx\nApp: x\n");
   EXPECT_THAT(delegate_->results, IsEmpty());
 }
 

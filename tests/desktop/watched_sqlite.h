@@ -9,7 +9,7 @@ namespace qv_commons::desktop {
 struct FileTraffic {
   int opens = 0;
   int reads = 0;
-  int writes = 0;  // whatever changes a file: write, truncate, sync, delete
+  int writes = 0;           // whatever changes a file: write, truncate, sync, delete
   int unsyncedDeletes = 0;  // the folder is left to the system
 };
 

@@ -1,15 +1,21 @@
 #include "qv_commons/platform/desktop/composer_window.h"
 
 #include <QAccessible>
+#include <QDateTime>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
+#include <QMenu>
 #include <QPlainTextEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QStyle>
+#include <QTextBlock>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <limits>
 #include <utility>
 
@@ -32,9 +38,23 @@ QPushButton* makeButton(const QString& name, const QString& text, const char* ro
                         const std::function<void()>& reaction) {
   auto* button = named(new QPushButton(text), name, role);
   button->setAutoDefault(false);  // Return in a field must not send
-  QObject::connect(button, &QPushButton::clicked, button, reaction);
+  if (reaction) QObject::connect(button, &QPushButton::clicked, button, reaction);
   return button;
 }
+
+// Shift and Return give a line like Return alone: mail knows one kind of line end.
+class MessageEdit final : public QPlainTextEdit {
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+      return QPlainTextEdit::keyPressEvent(event);
+    }
+    QKeyEvent plain(event->type(), event->key(), event->modifiers() & ~Qt::ShiftModifier,
+                    event->text());
+    QPlainTextEdit::keyPressEvent(&plain);
+    event->setAccepted(plain.isAccepted());
+  }
+};
 
 QLineEdit* makeLineEdit(const QString& name) {
   auto* edit = named(new QLineEdit, name, "field");
@@ -66,7 +86,7 @@ ComposerWindow::ComposerWindow(const Reactions& reactions) {
   layout->addWidget(scroll_);
   addShortcuts();
 
-  QWidget* const order[] = {recipients_, subject_, body_, save_, send_, cancel_};
+  QWidget* const order[] = {recipients_, subject_, body_, save_, drafts_, send_, cancel_};
   for (std::size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
   body_->setFocus();
 }
@@ -93,13 +113,17 @@ QWidget* ComposerWindow::makePage(const Reactions& reactions) {
   notice_ = makeLabel("notice", "", "notice");
   notice_->hide();
   layout->addWidget(notice_);
+  progress_ = named(new QProgressBar, "progress", "progress");
+  progress_->setAccessibleName("Progress");
+  progress_->hide();
+  layout->addWidget(progress_);
 
   recipients_ = makeLineEdit("to");
   recipients_->setInputMethodHints(Qt::ImhEmailCharactersOnly);
   addField(*layout, "&To", *recipients_);
   subject_ = makeLineEdit("subject");
   addField(*layout, "S&ubject", *subject_);
-  body_ = named(new QPlainTextEdit, "body", "field");
+  body_ = named(new MessageEdit, "body", "field");
   body_->setTabChangesFocus(true);
   body_->setMinimumHeight(qRound(120 * textScale()));
   addField(*layout, "&Message", *body_, 1);
@@ -109,6 +133,11 @@ QWidget* ComposerWindow::makePage(const Reactions& reactions) {
   layout->addLayout(attachments_);
   save_ = makeButton("save", "Save &draft", "secondary", reactions.save);
   layout->addWidget(save_);
+  drafts_ = makeButton("drafts", "Open a d&raft", "secondary", nullptr);
+  drafts_->setMenu(new QMenu(drafts_));
+  drafts_->hide();
+  layout->addWidget(drafts_);
+  openDraft_ = reactions.openDraft;
   return page;
 }
 
@@ -143,8 +172,24 @@ void ComposerWindow::setSubject(const std::string& subject) {
 }
 
 void ComposerWindow::setBody(std::string body) {
-  original_ = EditedText(std::move(body));
-  body_->setPlainText(original_.shown());
+  disconnect(edits_);
+  text_ = EditedText(std::move(body));
+  body_->setPlainText(text_.shown());
+  edits_ =
+      connect(body_->document(), &QTextDocument::contentsChange, this, &ComposerWindow::onEdited);
+  // Below the opening line, where there is room for what the user has to say.
+  QTextCursor caret(body_->document()->findBlockByNumber(1));
+  if (caret.atBlockEnd() && !caret.isNull()) body_->setTextCursor(caret);
+}
+
+// Qt counts the end of the document too, and tells of more than has changed.
+void ComposerWindow::onEdited(int position, int removed, int added) {
+  QTextCursor cursor(body_->document());
+  cursor.setPosition(position);
+  cursor.setPosition(std::min(position + added, body_->document()->characterCount() - 1),
+                     QTextCursor::KeepAnchor);
+  text_.replace(static_cast<std::size_t>(position), static_cast<std::size_t>(removed),
+                cursor.selectedText().replace(QChar::ParagraphSeparator, QChar('\n')));
 }
 
 void ComposerWindow::addAttachment(const MailAttachment& attachment) {
@@ -160,6 +205,29 @@ void ComposerWindow::addAttachment(const MailAttachment& attachment) {
   attachments_->addLayout(column);
 }
 
+void ComposerWindow::clearAttachments() {
+  while (QLayoutItem* item = attachments_->takeAt(0)) {
+    while (QLayoutItem* line = item->layout()->takeAt(0)) {
+      delete line->widget();
+      delete line;
+    }
+    delete item;
+  }
+}
+
+void ComposerWindow::showDrafts(const std::vector<DraftSummary>& drafts) {
+  QMenu& menu = *drafts_->menu();
+  menu.clear();
+  for (const DraftSummary& draft : drafts) {
+    const QString when =
+        QLocale().toString(QDateTime::fromSecsSinceEpoch(draft.written), QLocale::ShortFormat);
+    const QString subject = draft.subject.empty() ? "(no subject)" : fromUtf8(draft.subject);
+    QAction* action = menu.addAction(QString(subject + ", " + when).replace('&', "&&"));
+    connect(action, &QAction::triggered, this, [this, name = draft.name] { openDraft_(name); });
+  }
+  drafts_->setVisible(!drafts.empty());
+}
+
 std::string ComposerWindow::recipients() const {
   return toUtf8(recipients_->text());
 }
@@ -169,9 +237,7 @@ std::string ComposerWindow::subject() const {
 }
 
 std::string ComposerWindow::body() const {
-  // The raw text, since the plain one turns no-break spaces into blanks.
-  return original_.bytesOf(
-      body_->document()->toRawText().replace(QChar::ParagraphSeparator, QChar('\n')));
+  return text_.bytes();
 }
 
 bool ComposerWindow::isChanged() const {
@@ -185,6 +251,7 @@ void ComposerWindow::setPhase(Phase phase) {
   body_->setReadOnly(!editing);
   send_->setEnabled(editing);
   save_->setEnabled(editing);
+  drafts_->setEnabled(editing);
   cancel_->setEnabled(phase != Phase::left);
   cancel_->setText(phase == Phase::sending ? "&Stop" : "&Cancel");
 }
@@ -198,6 +265,19 @@ void ComposerWindow::showNotice(const QString& text, Tone tone) {
   scroll_->ensureWidgetVisible(notice_);
   QAccessibleEvent alert(notice_, QAccessible::Alert);
   QAccessible::updateAccessibility(&alert);
+}
+
+void ComposerWindow::hideNotice() {
+  notice_->hide();
+}
+
+void ComposerWindow::showProgress(double done) {
+  progress_->setValue(qRound(100 * done));
+  progress_->show();
+}
+
+void ComposerWindow::hideProgress() {
+  progress_->hide();
 }
 
 void ComposerWindow::focusField(MailField field) {

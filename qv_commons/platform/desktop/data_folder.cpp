@@ -9,7 +9,8 @@
 namespace qv_commons::desktop {
 namespace {
 
-// "" where the variable is not set or relative: a relative path means another folder for each start.
+// "" where the variable is not set or relative: a relative path means another folder for each
+// start.
 std::string absolutePath(const char* variable) {
   const std::string path = qgetenv(variable).toStdString();
   return path.starts_with('/') ? path : "";

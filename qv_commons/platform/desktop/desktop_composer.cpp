@@ -9,20 +9,27 @@
 #include <utility>
 
 #include "qv_commons/platform/desktop/desktop_style.h"
+#include "qv_commons/platform/desktop/mail_addresses.h"
 #include "qv_commons/platform/desktop/mail_drafts.h"
 #include "qv_commons/platform/desktop/qt_text.h"
 
 namespace qv_commons::desktop {
 namespace {
 
+using Phase = ComposerWindow::Phase;
+using Tone = ComposerWindow::Tone;
+
+constexpr int kProgressMilliseconds = 100;
+constexpr const char* kEnding = ".eml";
+
 std::string hostName() {
   const std::string name = toUtf8(QSysInfo::machineHostName());
-  return name.empty() ? "localhost" : name;
+  return isAddress("user@" + name) ? name : "localhost";
 }
 
 std::string defaultSender() {
   const passwd* user = ::getpwuid(::getuid());
-  return std::string(user == nullptr ? "user" : user->pw_name) + "@" + hostName();
+  return user == nullptr ? "" : std::string(user->pw_name) + "@" + hostName();
 }
 
 std::string joined(const std::vector<std::string>& texts) {
@@ -35,10 +42,21 @@ std::string joined(const std::vector<std::string>& texts) {
 
 DesktopComposer::DesktopComposer(SharedContext context)
     : DesktopNode(std::move(context)),
-      window_(
-          {.send = [this] { send(); }, .save = [this] { save(); }, .cancel = [this] { cancel(); }}),
+      window_({.send = [this] { send(); },
+               .save = [this] { save(); },
+               .cancel = [this] { cancel(); },
+               .openDraft = [this](const std::string& name) { openDraft(name); }}),
       identity_(toUtf8(QUuid::createUuid().toString(QUuid::WithoutBraces))) {
   attachWindow(window_);
+  QObject::connect(&progressTimer_, &QTimer::timeout, &progressTimer_, [this] {
+    if (work_.isRunning()) window_.showProgress(output_->progress());
+  });
+  listDrafts();
+}
+
+DesktopComposer::~DesktopComposer() {
+  work_.finish();
+  keepWhatWasTyped();
 }
 
 void DesktopComposer::dress(UserInterfaceStyle style) {
@@ -46,82 +64,181 @@ void DesktopComposer::dress(UserInterfaceStyle style) {
 }
 
 void DesktopComposer::userLeaves() {
-  if (isModalInPresentation() || isSending()) return;
+  if (isModalInPresentation() || isBusy()) return;
   if (!window_.isChanged()) return cancel();
   window_.showNotice("Your message is still here. Save it as a draft, or cancel to discard it.",
-                     ComposerWindow::Tone::news);
+                     Tone::news);
+}
+
+void DesktopComposer::show(bool animated) {
+  isOver_ = false;
+  DesktopNode::show(animated);
+}
+
+void DesktopComposer::hide(bool animated) {
+  if (!isBusy()) keepWhatWasTyped();
+  DesktopNode::hide(animated);
+}
+
+void DesktopComposer::keepWhatWasTyped() {
+  if (isBusy() || std::exchange(isOver_, true) || !window_.isChanged()) return;
+  MailOutput output(message(), context().draftDirectory(), identity_ + kEnding);
+  output.write(MailOutput::Use::keep, false);
+  if (output.failure()) context().reportError(*output.failure());
 }
 
 void DesktopComposer::send() {
-  if (!keepDraft(MailPurpose::send)) return;
+  if (const std::optional<MailProblem> problem = findProblem(message())) {
+    window_.showNotice(fromUtf8(problem->sentence), Tone::error);
+    return window_.focusField(problem->field);
+  }
+  write("Sending…", MailOutput::Use::send, [this] { deliver(); });
+}
+
+void DesktopComposer::save() {
+  write("Saving…", MailOutput::Use::keep, [this] {
+    if (output_->wasStopped()) return edit("Not saved. Saving was stopped.");
+    if (output_->failure()) return edit("Not saved. " + *output_->failure());
+    leave(MailComposeResult::saved);
+  });
+}
+
+void DesktopComposer::write(const QString& notice, MailOutput::Use use,
+                            std::function<void()> done) {
+  window_.setPhase(Phase::sending);
+  window_.showNotice(notice, Tone::news);
+  output_ =
+      std::make_shared<MailOutput>(message(), context().draftDirectory(), identity_ + kEnding);
+  progressTimer_.start(kProgressMilliseconds);
+  work_.start([output = output_,
+               use](const std::atomic<bool>& isStopped) { output->write(use, isStopped); },
+              [this, done = std::move(done)] {
+                progressTimer_.stop();
+                window_.hideProgress();
+                done();
+              });
+}
+
+void DesktopComposer::deliver() {
   const DesktopSettings& settings = context().settings;
+  if (output_->wasStopped()) return onDelivered("Sending was stopped.");
+  if (output_->failure()) return onDelivered(output_->failure());
   const QString program = findMailProgram(settings.sendmailProgram);
   if (program.isEmpty()) return onDelivered("This computer has no mail program.");
-  window_.setPhase(ComposerWindow::Phase::sending);
-  window_.showNotice("Sending…", ComposerWindow::Tone::news);
+  if (output_->noDraft()) {
+    window_.showNotice(fromUtf8("Sending… No copy is kept: " + *output_->noDraft()), Tone::news);
+  }
   QStringList arguments;
   for (const std::string& argument : settings.sendmailArguments) {
     arguments.append(fromUtf8(argument));
   }
-  sender_ = std::make_unique<MailSender>(
-      program, arguments + QStringList{"-t", "-i"}, fromUtf8(draftPath()), settings.sendTimeout,
-      [this](const std::optional<std::string>& failure) { onDelivered(failure); });
+  sender_ = std::make_unique<MailSender>(program, arguments + QStringList{"-t", "-i"},
+                                         fromUtf8(output_->file()), settings.sendTimeout,
+                                         [this](const Failure& failure) { onDelivered(failure); });
 }
 
-void DesktopComposer::save() {
-  if (keepDraft(MailPurpose::keep)) leave(MailComposeResult::saved);
+void DesktopComposer::onDelivered(const Failure& failure) {
+  if (!failure) return removeCopyAndLeave(MailComposeResult::sent);
+  const bool isKept = !output_->wasStopped() && !output_->noDraft();
+  edit("Not sent. " + *failure +
+       (isKept                                         ? "\nA copy is kept as " + draftPath() + "."
+        : output_->noDraft() && !output_->wasStopped() ? "\nNo copy is kept: " + *output_->noDraft()
+                                                       : ""));
+}
+
+// The window is the user's again.
+void DesktopComposer::edit(const std::string& notice) {
+  window_.setPhase(Phase::editing);
+  window_.showNotice(fromUtf8(notice), Tone::error);
 }
 
 void DesktopComposer::cancel() {
-  if (!isSending()) return leave(MailComposeResult::cancelled);
-  sender_->stop("Sending was stopped. The message may have been sent all the same.");
-}
-
-bool DesktopComposer::keepDraft(MailPurpose purpose) {
-  const std::string& sender = context().settings.senderAddress;
-  const BuiltMessage built = buildMailMessage({.sender = sender.empty() ? defaultSender() : sender,
-                                               .recipients = window_.recipients(),
-                                               .subject = window_.subject(),
-                                               .body = window_.body(),
-                                               .isHTML = isHTML_,
-                                               .attachments = attachments_,
-                                               .date = QDateTime::currentSecsSinceEpoch(),
-                                               .messageId = identity_ + "@" + hostName()},
-                                              purpose);
-  std::string error = built.error;
-  if (error.empty()) {
-    error = writeDraft(draftDirectory(), identity_ + ".eml", built.bytes);
-    if (!error.empty()) error = draftPath() + " can't be written: " + error + ".";
+  if (work_.isRunning()) return work_.stop();
+  if (isBusy()) {
+    return sender_->stop("Sending was stopped. The message may have been sent all the same.");
   }
-  if (error.empty()) return true;
-  window_.showNotice(fromUtf8(error), ComposerWindow::Tone::error);
-  window_.focusField(built.field);
-  return false;
+  // The copy of a failed attempt is the user's only if they asked for it.
+  if (output_ == nullptr || isDraft_) return leave(MailComposeResult::cancelled);
+  removeCopyAndLeave(MailComposeResult::cancelled);
 }
 
-std::string DesktopComposer::draftDirectory() const {
-  return context().dataDirectory() + "/drafts";
+void DesktopComposer::removeCopyAndLeave(MailComposeResult result) {
+  window_.setPhase(Phase::left);
+  work_.start(
+      [path = draftPath()](const std::atomic<bool>&) {
+        std::error_code ignored;
+        std::filesystem::remove(path, ignored);
+      },
+      [this, result] { leave(result); });
+}
+
+void DesktopComposer::openDraft(const std::string& name) {
+  struct Opened {
+    Failure notKept;
+    Result<MailMessage> draft;
+  };
+  const auto opened = std::make_shared<Opened>();
+  std::shared_ptr<MailOutput> kept;
+  if (window_.isChanged()) {
+    kept = std::make_shared<MailOutput>(message(), context().draftDirectory(), identity_ + kEnding);
+  }
+  window_.setPhase(Phase::left);
+  work_.start(
+      [opened, kept,
+       path = context().draftDirectory() + "/" + name](const std::atomic<bool>& isStopped) {
+        if (kept) kept->write(MailOutput::Use::keep, isStopped);
+        if (kept) opened->notKept = kept->failure();
+        if (!opened->notKept) opened->draft = readDraft(path);
+      },
+      [this, opened, name] {
+        if (opened->notKept) return edit("Your message is still here. " + *opened->notKept);
+        if (!opened->draft.value) return edit(opened->draft.failure);
+        fill(*opened->draft.value, name);
+      });
+}
+
+void DesktopComposer::fill(const MailMessage& draft, const std::string& name) {
+  window_.setRecipients(draft.recipients);
+  window_.setSubject(draft.subject);
+  window_.setBody(draft.body);
+  window_.clearAttachments();
+  for (const SharedAttachment& attachment : draft.attachments) window_.addAttachment(*attachment);
+  attachments_ = draft.attachments;
+  isHTML_ = draft.isHTML;
+  identity_ = name.substr(0, name.size() - std::char_traits<char>::length(kEnding));
+  isDraft_ = true;
+  window_.setPhase(Phase::editing);
+  window_.hideNotice();
+  listDrafts();
+}
+
+void DesktopComposer::listDrafts() {
+  const auto drafts = std::make_shared<std::vector<DraftSummary>>();
+  if (lister_.isRunning()) return;
+  lister_.start([drafts, folder = context().draftDirectory()](
+                    const std::atomic<bool>&) { *drafts = desktop::listDrafts(folder); },
+                [this, drafts] { window_.showDrafts(*drafts); });
+}
+
+MailMessage DesktopComposer::message() const {
+  const std::string& sender = context().settings.senderAddress;
+  return {.sender = sender.empty() ? defaultSender() : sender,
+          .recipients = window_.recipients(),
+          .subject = window_.subject(),
+          .body = window_.body(),
+          .isHTML = isHTML_,
+          .attachments = attachments_,
+          .date = QDateTime::currentSecsSinceEpoch(),
+          .messageId = identity_ + "@" + hostName()};
 }
 
 std::string DesktopComposer::draftPath() const {
-  return draftDirectory() + "/" + identity_ + ".eml";
-}
-
-void DesktopComposer::onDelivered(const std::optional<std::string>& failure) {
-  if (failure) {
-    window_.setPhase(ComposerWindow::Phase::editing);
-    window_.showNotice(
-        fromUtf8("Not sent. " + *failure + "\nA copy is kept as " + draftPath() + "."),
-        ComposerWindow::Tone::error);
-    return;
-  }
-  std::error_code ignored;
-  std::filesystem::remove(draftPath(), ignored);
-  leave(MailComposeResult::sent);
+  return context().draftDirectory() + "/" + identity_ + kEnding;
 }
 
 void DesktopComposer::leave(MailComposeResult result) {
-  window_.setPhase(ComposerWindow::Phase::left);
+  isOver_ = true;
+  window_.setPhase(Phase::left);
   if (const std::shared_ptr<MailComposeDelegate> told = delegate_.lock()) {
     told->mailComposeController(composer_, result, "");
   } else {
@@ -149,7 +266,7 @@ void DesktopComposer::Composer::setMessageBody(std::string body, bool isHTML) {
 
 void DesktopComposer::Composer::addAttachment(MailAttachment attachment) {
   owner_.window_.addAttachment(attachment);
-  owner_.attachments_.push_back(std::move(attachment));
+  owner_.attachments_.push_back(std::make_shared<const MailAttachment>(std::move(attachment)));
 }
 
 }  // namespace qv_commons::desktop

@@ -1,13 +1,17 @@
 // A mail composer: what becomes of the message in its window.
 #pragma once
 
+#include <QTimer>
+#include <atomic>
 #include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "qv_commons/platform/desktop/background_work.h"
 #include "qv_commons/platform/desktop/composer_window.h"
 #include "qv_commons/platform/desktop/desktop_node.h"
+#include "qv_commons/platform/desktop/mail_output.h"
 #include "qv_commons/platform/desktop/mail_sender.h"
 #include "qv_commons/platform/mail_composer.h"
 
@@ -16,6 +20,7 @@ namespace qv_commons::desktop {
 class DesktopComposer final : public DesktopNode {
  public:
   explicit DesktopComposer(SharedContext context);
+  ~DesktopComposer() override;
 
   MailComposer& controller() override { return composer_; }
 
@@ -25,6 +30,10 @@ class DesktopComposer final : public DesktopNode {
   // Leaves without a question where nothing was typed; otherwise says how to, so that no Escape
   // takes a text away.
   void userLeaves() override;
+
+  // Whoever takes the composer away, what the user has typed stays as a draft.
+  void show(bool animated) override;
+  void hide(bool animated) override;
 
  private:
   class Composer final : public MailComposer {
@@ -43,23 +52,37 @@ class DesktopComposer final : public DesktopNode {
   void send();
   void save();
   void cancel();
-  bool isSending() const { return sender_ != nullptr && sender_->isRunning(); }
+  void openDraft(const std::string& name);
+  bool isBusy() const { return work_.isRunning() || (sender_ != nullptr && sender_->isRunning()); }
 
-  // Writes what the window holds to the draft file. False, and the window says why, where that is
-  // not possible.
-  bool keepDraft(MailPurpose purpose);
-  std::string draftDirectory() const;
+  // Writes what the window holds beside the main thread, then calls `done`. The window says
+  // `notice`, how far it is, and can stop it.
+  void write(const QString& notice, MailOutput::Use use, std::function<void()> done);
+  MailMessage message() const;
   std::string draftPath() const;
-  void onDelivered(const std::optional<std::string>& failure);
+
+  void deliver();
+  void onDelivered(const Failure& failure);
+  void edit(const std::string& notice);
+  void fill(const MailMessage& draft, const std::string& name);
+  void listDrafts();
+  void keepWhatWasTyped();
+  void removeCopyAndLeave(MailComposeResult result);
   void leave(MailComposeResult result);
 
   Composer composer_{*this};
   ComposerWindow window_;
   std::string identity_;  // names the message and its draft
+  bool isDraft_ = false;  // that the user has kept
+  bool isOver_ = false;   // left, or taken away and kept
   bool isHTML_ = false;
-  std::vector<MailAttachment> attachments_;
+  std::vector<SharedAttachment> attachments_;
   std::weak_ptr<MailComposeDelegate> delegate_;
+  std::shared_ptr<MailOutput> output_;  // of the last attempt to save or send
   std::unique_ptr<MailSender> sender_;
+  QTimer progressTimer_;
+  BackgroundWork work_;
+  BackgroundWork lister_;
 };
 
 }  // namespace qv_commons::desktop

@@ -27,6 +27,8 @@ struct DesktopContext {
     return appDataFolder();
   }
 
+  std::string draftDirectory() const { return dataDirectory() + "/drafts"; }
+
   void reportError(const std::string& problem) const {
     if (settings.onError) settings.onError(problem);
   }

@@ -16,6 +16,7 @@
 #include "qv_commons/platform/desktop/desktop_system.h"
 #include "qv_commons/platform/desktop/host_node.h"
 #include "qv_commons/platform/desktop/icu_calendar.h"
+#include "qv_commons/platform/desktop/mail_drafts.h"
 #include "qv_commons/platform/desktop/sqlite_user_defaults.h"
 
 namespace qv_commons::desktop {
@@ -70,6 +71,7 @@ DesktopPlatform::Parts::~Parts() {
 DesktopPlatform::DesktopPlatform(DesktopSettings settings) {
   auto context = std::make_shared<DesktopContext>();
   context->settings = std::move(settings);
+  removeUnfinishedDrafts(context->draftDirectory());
   parts_ = std::make_unique<Parts>(std::move(context));
 }
 

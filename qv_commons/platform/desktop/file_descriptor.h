@@ -3,6 +3,7 @@
 
 #include <cerrno>
 #include <string>
+#include <string_view>
 #include <system_error>
 #include <unistd.h>
 
@@ -23,6 +24,17 @@ class FileDescriptor {
  private:
   int number_;
 };
+
+// Whether all of the bytes were written; errno says why not.
+inline bool writeAll(const FileDescriptor& file, std::string_view bytes) {
+  while (!bytes.empty()) {
+    const ssize_t written = ::write(file.number(), bytes.data(), bytes.size());
+    if (written < 0 && errno == EINTR) continue;
+    if (written < 0) return false;
+    bytes.remove_prefix(static_cast<std::size_t>(written));
+  }
+  return true;
+}
 
 // The system's words for an error number, for example "No such file or directory".
 inline std::string describeError(int number) {

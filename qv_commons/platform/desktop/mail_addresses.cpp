@@ -1,6 +1,10 @@
 #include "qv_commons/platform/desktop/mail_addresses.h"
 
+#include <QList>
+#include <QString>
 #include <algorithm>
+
+#include "qv_commons/platform/desktop/qt_text.h"
 
 namespace qv_commons::desktop {
 namespace {
@@ -9,12 +13,20 @@ bool isControl(char character) {
   return (character >= '\0' && character < ' ') || character == '\x7f';
 }
 
+// Letters, marks, digits, punctuation and symbols, as UTF-8: what a person can see.
+bool isVisible(std::string_view part) {
+  const QString text = fromUtf8(part);
+  if (toUtf8(text) != part) return false;  // not UTF-8
+  const QList<uint> characters = text.toUcs4();
+  return std::all_of(characters.begin(), characters.end(), [](uint character) {
+    return QChar::isPrint(character) && !QChar::isSpace(character) &&
+           QChar::category(character) != QChar::Other_Format;
+  });
+}
+
 // RFC 5322, section 3.2.3, plus the letters beyond ASCII of RFC 6531.
 bool isPlain(std::string_view part) {
-  constexpr std::string_view kSpecials = " ()<>[]:;@\\,\"";
-  return std::none_of(part.begin(), part.end(), [&](char character) {
-    return isControl(character) || kSpecials.find(character) != std::string_view::npos;
-  });
+  return part.find_first_of(" ()<>[]:;@\\,\"") == std::string_view::npos && isVisible(part);
 }
 
 bool isDotted(std::string_view part) {
@@ -22,15 +34,18 @@ bool isDotted(std::string_view part) {
          part.find("..") == std::string_view::npos && isPlain(part);
 }
 
-// A quoted local part: backslashes quote what follows them, and no quote stands alone.
-bool isQuoted(std::string_view part) {
-  if (part.size() < 2 || part.front() != '"' || part.back() != '"') return false;
-  const std::string_view inside = part.substr(1, part.size() - 2);
+// What stands between two double quotes, without the backslashes that quote; std::nullopt where a
+// quote stands alone.
+std::optional<std::string> unquoted(std::string_view text) {
+  if (text.size() < 2 || text.front() != '"' || text.back() != '"') return std::nullopt;
+  const std::string_view inside = text.substr(1, text.size() - 2);
+  std::string result;
   for (std::size_t i = 0; i < inside.size(); ++i) {
-    if (inside[i] == '"') return false;
-    if (inside[i] == '\\' && ++i == inside.size()) return false;
+    if (inside[i] == '"') return std::nullopt;
+    if (inside[i] == '\\' && ++i == inside.size()) return std::nullopt;
+    result += inside[i];
   }
-  return !hasControlCharacter(inside);
+  return hasControlCharacter(result) ? std::nullopt : std::optional(result);
 }
 
 std::string_view trimmed(std::string_view text) {
@@ -46,21 +61,43 @@ std::vector<std::string> splitAddresses(std::string_view recipients) {
   bool quoted = false;
   std::size_t start = 0;
   for (std::size_t i = 0; i <= recipients.size(); ++i) {
-    const bool atEnd = i == recipients.size();
+    const bool atEnd = i >= recipients.size();
+    if (!atEnd && quoted && recipients[i] == '\\') {
+      ++i;  // quotes what follows it
+      continue;
+    }
     if (!atEnd && recipients[i] == '"') quoted = !quoted;
     if (!atEnd && (quoted || recipients[i] != ',')) continue;
     const std::string_view address = trimmed(recipients.substr(start, i - start));
     if (!address.empty()) addresses.emplace_back(address);
     start = i + 1;
   }
+  if (start < recipients.size()) addresses.emplace_back(trimmed(recipients.substr(start)));
   return addresses;
+}
+
+std::optional<Mailbox> parseMailbox(std::string_view text) {
+  const std::size_t bracket = text.rfind('<');
+  if (bracket == std::string_view::npos || !text.ends_with('>')) {
+    if (!isAddress(text)) return std::nullopt;
+    return Mailbox{"", std::string(text)};
+  }
+  const std::string_view address = text.substr(bracket + 1, text.size() - bracket - 2);
+  const std::string_view name = trimmed(text.substr(0, bracket));
+  std::optional<std::string> plainName = unquoted(name);
+  if (!plainName && name.find_first_of("<>\"@,;:()[]\\") == std::string_view::npos &&
+      !hasControlCharacter(name)) {
+    plainName = name;
+  }
+  if (!isAddress(address) || !plainName) return std::nullopt;
+  return Mailbox{*std::move(plainName), std::string(address)};
 }
 
 bool isAddress(std::string_view address) {
   const std::size_t at = address.rfind('@');
   if (at == std::string_view::npos) return false;
   const std::string_view local = address.substr(0, at);
-  return (isDotted(local) || isQuoted(local)) && isDotted(address.substr(at + 1));
+  return (isDotted(local) || unquoted(local)) && isDotted(address.substr(at + 1));
 }
 
 bool hasControlCharacter(std::string_view text) {

@@ -1,14 +1,15 @@
 #include "qv_commons/platform/desktop/mail_message.h"
 
 #include <gmime/gmime.h>
-#include <memory>
-#include <optional>
-#include <string_view>
 
 #include "qv_commons/platform/desktop/mail_addresses.h"
+#include "qv_commons/platform/desktop/mail_encoding.h"
 
 namespace qv_commons::desktop {
 namespace {
+
+// No encoding of the parts gives a line that begins so.
+constexpr const char* kBoundary = "=_qv_commons_part";
 
 struct Unref {
   void operator()(void* object) const { g_object_unref(object); }
@@ -16,10 +17,6 @@ struct Unref {
 
 template <class T>
 using Owned = std::unique_ptr<T, Unref>;
-
-BuiltMessage refuse(MailField field, std::string error) {
-  return {{}, std::move(error), field};
-}
 
 // The form of a type is that of RFC 2045, section 5.1.
 bool isMimeType(std::string_view type) {
@@ -29,102 +26,157 @@ bool isMimeType(std::string_view type) {
          type.find('/', slash + 1) == std::string_view::npos && !hasControlCharacter(type);
 }
 
-std::optional<BuiltMessage> findFault(const MailMessage& message, MailPurpose purpose) {
-  if (hasControlCharacter(message.recipients)) {
-    return refuse(MailField::recipients,
-                  "The address holds a line break or another control character. Please take it "
-                  "out.");
+bool isSendable(const MailAttachment& attachment) {
+  return !hasControlCharacter(attachment.fileName) && isMimeType(attachment.mimeType);
+}
+
+std::optional<MailProblem> findRecipientsProblem(const std::string& recipients) {
+  const auto about = [](std::string sentence) {
+    return MailProblem{std::move(sentence), MailField::recipients};
+  };
+  if (hasControlCharacter(recipients)) {
+    return about(
+        "The address holds a line break or another control character. Please take it "
+        "out.");
   }
-  const std::vector<std::string> addresses = splitAddresses(message.recipients);
-  if (addresses.empty() && purpose == MailPurpose::send) {
-    return refuse(MailField::recipients, "Please enter an address to send to.");
-  }
+  const std::vector<std::string> addresses = splitAddresses(recipients);
+  if (addresses.empty()) return about("Please enter an address to send to.");
   for (const std::string& address : addresses) {
-    if (!isAddress(address)) {
-      return refuse(MailField::recipients, "“" + address + "” is not an e-mail address.");
-    }
+    if (!parseMailbox(address)) return about("“" + address + "” is not an e-mail address.");
   }
+  return std::nullopt;
+}
+
+std::string headersOf(GMimeObject& object) {
+  const std::unique_ptr<char, decltype(&g_free)> text(g_mime_object_get_headers(&object, nullptr),
+                                                      &g_free);
+  return text.get();
+}
+
+// Quoted-printable is readable as it stands, but takes every CR before LF for part of a line end.
+bool isQuotable(const std::string& body) {
+  return body.find('\r') == std::string::npos;
+}
+
+Owned<GMimePart> makePart(const std::string& mimeType, GMimeContentEncoding encoding) {
+  const std::size_t slash = mimeType.find('/');
+  Owned<GMimePart> part(g_mime_part_new_with_type(mimeType.substr(0, slash).c_str(),
+                                                  mimeType.substr(slash + 1).c_str()));
+  g_mime_part_set_content_encoding(part.get(), encoding);
+  return part;
+}
+
+Owned<GMimePart> makeTextPart(const MailMessage& message) {
+  Owned<GMimePart> part = makePart(message.isHTML ? "text/html" : "text/plain",
+                                   isQuotable(message.body) ? GMIME_CONTENT_ENCODING_QUOTEDPRINTABLE
+                                                            : GMIME_CONTENT_ENCODING_BASE64);
+  g_mime_object_set_content_type_parameter(GMIME_OBJECT(part.get()), "charset", "utf-8");
+  return part;
+}
+
+std::string attachmentHeaders(const MailAttachment& attachment) {
+  // A host's own mistake must not cost the user a draft.
+  const bool sendable = isSendable(attachment);
+  const Owned<GMimePart> part = makePart(
+      sendable ? attachment.mimeType : "application/octet-stream", GMIME_CONTENT_ENCODING_BASE64);
+  g_mime_object_set_disposition(GMIME_OBJECT(part.get()), GMIME_DISPOSITION_ATTACHMENT);
+  g_mime_part_set_filename(part.get(), sendable ? attachment.fileName.c_str() : "attachment");
+  return headersOf(*GMIME_OBJECT(part.get()));
+}
+
+void setText(GMimeMessage& mail, const char* name, const std::string& value) {
+  GMimeHeaderList* headers = g_mime_object_get_header_list(GMIME_OBJECT(&mail));
+  g_mime_header_list_append(headers, name, "", nullptr);
+  GMimeHeader* header = g_mime_header_list_get_header(headers, name);
+  g_mime_header_set_raw_value(header, (" " + headerText(value) + "\n").c_str());
+}
+
+void setRecipients(GMimeMessage& mail, const std::string& recipients) {
+  const bool finished = recipients.empty() || !findRecipientsProblem(recipients);
+  if (!finished) return setText(mail, kUnfinishedRecipients, recipients);
+  for (const std::string& text : splitAddresses(recipients)) {
+    const Mailbox mailbox = *parseMailbox(text);
+    g_mime_message_add_mailbox(&mail, GMIME_ADDRESS_TYPE_TO,
+                               mailbox.name.empty() ? nullptr : mailbox.name.c_str(),
+                               mailbox.address.c_str());
+  }
+}
+
+void setHeaders(GMimeMessage& mail, const MailMessage& message) {
+  GDateTime* date = g_date_time_new_from_unix_utc(message.date);
+  g_mime_message_set_date(&mail, date);
+  g_date_time_unref(date);
+  if (isAddress(message.sender)) {
+    g_mime_message_add_mailbox(&mail, GMIME_ADDRESS_TYPE_FROM, nullptr, message.sender.c_str());
+  }
+  setText(mail, "Subject", message.subject);
+  setRecipients(mail, message.recipients);
+  g_mime_message_set_message_id(&mail, message.messageId.c_str());
+}
+
+// The headers of the whole, those of `content` among them, and the line that ends them.
+std::string messageHeaders(const MailMessage& message, GMimeObject& content) {
+  const Owned<GMimeMessage> mail(g_mime_message_new(FALSE));
+  setHeaders(*mail, message);
+  g_mime_message_set_mime_part(mail.get(), &content);
+  return headersOf(*GMIME_OBJECT(mail.get())) + "\n";
+}
+
+bool writeBody(const MailMessage& message, const MailSink& sink) {
+  if (!isQuotable(message.body)) return writeBase64Lines(message.body, sink);
+  return sink(quotedPrintable(message.body));
+}
+
+bool writeParts(const MailMessage& message, GMimePart& text, const MailSink& sink) {
+  const std::string boundary = std::string("--") + kBoundary;
+  if (!sink(boundary + "\n" + headersOf(*GMIME_OBJECT(&text)) + "\n")) return false;
+  if (!writeBody(message, sink)) return false;
+  for (const SharedAttachment& attachment : message.attachments) {
+    if (!sink("\n" + boundary + "\n" + attachmentHeaders(*attachment) + "\n")) return false;
+    if (!writeBase64Lines(attachment->data, sink)) return false;
+  }
+  return sink("\n" + boundary + "--\n");
+}
+
+}  // namespace
+
+std::optional<MailProblem> findProblem(const MailMessage& message) {
+  if (auto problem = findRecipientsProblem(message.recipients)) return problem;
   if (hasControlCharacter(message.subject)) {
-    return refuse(MailField::subject,
-                  "The subject holds a line break or another control character. Please take it "
-                  "out.");
+    return MailProblem{
+        "The subject holds a line break or another control character. Please take it out.",
+        MailField::subject};
   }
-  if (!isAddress(message.sender)) {
-    return refuse(MailField::other,
-                  "The sender “" + message.sender + "” is not an e-mail address.");
-  }
-  for (const MailAttachment& attachment : message.attachments) {
-    if (hasControlCharacter(attachment.fileName) || !isMimeType(attachment.mimeType)) {
-      return refuse(MailField::other, "The attachment's name or type can't be sent.");
+  for (const SharedAttachment& attachment : message.attachments) {
+    if (!isSendable(*attachment)) {
+      return MailProblem{"The attachment's name or type can't be sent.", MailField::other};
     }
   }
   return std::nullopt;
 }
 
-Owned<GMimePart> makePart(const std::string& mimeType, const std::string& bytes,
-                          GMimeContentEncoding encoding) {
-  const std::size_t slash = mimeType.find('/');
-  Owned<GMimePart> part(g_mime_part_new_with_type(mimeType.substr(0, slash).c_str(),
-                                                  mimeType.substr(slash + 1).c_str()));
-  const Owned<GMimeStream> stream(g_mime_stream_mem_new_with_buffer(bytes.data(), bytes.size()));
-  const Owned<GMimeDataWrapper> content(
-      g_mime_data_wrapper_new_with_stream(stream.get(), GMIME_CONTENT_ENCODING_DEFAULT));
-  g_mime_part_set_content(part.get(), content.get());
-  g_mime_part_set_content_encoding(part.get(), encoding);
-  return part;
-}
-
-Owned<GMimePart> bodyPart(const MailMessage& message) {
-  // Quoted-printable is readable as it stands, but takes every CR before LF for part of a line end.
-  const bool hasCarriageReturn = message.body.find('\r') != std::string::npos;
-  Owned<GMimePart> part = makePart(
-      message.isHTML ? "text/html" : "text/plain", message.body,
-      hasCarriageReturn ? GMIME_CONTENT_ENCODING_BASE64 : GMIME_CONTENT_ENCODING_QUOTEDPRINTABLE);
-  g_mime_object_set_content_type_parameter(GMIME_OBJECT(part.get()), "charset", "utf-8");
-  return part;
-}
-
-Owned<GMimeObject> content(const MailMessage& message) {
-  Owned<GMimePart> body = bodyPart(message);
-  if (message.attachments.empty()) return Owned<GMimeObject>(GMIME_OBJECT(body.release()));
-  Owned<GMimeMultipart> mixed(g_mime_multipart_new_with_subtype("mixed"));
-  // Neither encoding of the parts can hold "=_".
-  g_mime_multipart_set_boundary(mixed.get(), "=_qv_commons_part");
-  g_mime_multipart_add(mixed.get(), GMIME_OBJECT(body.get()));
-  for (const MailAttachment& attachment : message.attachments) {
-    const Owned<GMimePart> part =
-        makePart(attachment.mimeType, attachment.data, GMIME_CONTENT_ENCODING_BASE64);
-    g_mime_object_set_disposition(GMIME_OBJECT(part.get()), GMIME_DISPOSITION_ATTACHMENT);
-    g_mime_part_set_filename(part.get(), attachment.fileName.c_str());
-    g_mime_multipart_add(mixed.get(), GMIME_OBJECT(part.get()));
-  }
-  return Owned<GMimeObject>(GMIME_OBJECT(mixed.release()));
-}
-
-void setHeaders(GMimeMessage& mail, const MailMessage& message) {
-  g_mime_message_add_mailbox(&mail, GMIME_ADDRESS_TYPE_FROM, nullptr, message.sender.c_str());
-  for (const std::string& address : splitAddresses(message.recipients)) {
-    g_mime_message_add_mailbox(&mail, GMIME_ADDRESS_TYPE_TO, nullptr, address.c_str());
-  }
-  g_mime_message_set_subject(&mail, message.subject.c_str(), "utf-8");
-  GDateTime* date = g_date_time_new_from_unix_utc(message.date);
-  g_mime_message_set_date(&mail, date);
-  g_date_time_unref(date);
-  g_mime_message_set_message_id(&mail, message.messageId.c_str());
-}
-
-}  // namespace
-
-BuiltMessage buildMailMessage(const MailMessage& message, MailPurpose purpose) {
-  if (std::optional<BuiltMessage> fault = findFault(message, purpose)) return *fault;
+bool writeMailMessage(const MailMessage& message, const MailSink& sink) {
   g_mime_init();
-  const Owned<GMimeMessage> mail(g_mime_message_new(TRUE));
-  setHeaders(*mail, message);
-  g_mime_message_set_mime_part(mail.get(), content(message).get());
-  const Owned<GMimeStream> stream(g_mime_stream_mem_new());
-  g_mime_object_write_to_stream(GMIME_OBJECT(mail.get()), nullptr, stream.get());
-  const GByteArray* bytes = g_mime_stream_mem_get_byte_array(GMIME_STREAM_MEM(stream.get()));
-  return {std::string(reinterpret_cast<const char*>(bytes->data), bytes->len), ""};
+  const Owned<GMimePart> text = makeTextPart(message);
+  if (message.attachments.empty()) {
+    if (!sink(messageHeaders(message, *GMIME_OBJECT(text.get())))) return false;
+    if (!writeBody(message, sink)) return false;
+    // The mail program would end the last line; a soft line break says that the text doesn't.
+    const bool isOpen = !message.body.empty() && message.body.back() != '\n';
+    return !isOpen || !isQuotable(message.body) || sink("=\n");
+  }
+  const Owned<GMimeMultipart> mixed(g_mime_multipart_new_with_subtype("mixed"));
+  g_mime_multipart_set_boundary(mixed.get(), kBoundary);
+  if (!sink(messageHeaders(message, *GMIME_OBJECT(mixed.get())))) return false;
+  return writeParts(message, *text, sink);
+}
+
+std::size_t estimateMailSize(const MailMessage& message) {
+  std::size_t size = 1000 + message.body.size();
+  for (const SharedAttachment& attachment : message.attachments) {
+    size += 1000 + attachment->data.size() / 57 * 77;
+  }
+  return size;
 }
 
 }  // namespace qv_commons::desktop

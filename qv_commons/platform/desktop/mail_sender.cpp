@@ -30,12 +30,12 @@ std::string describeExit(int exitCode) {
   }
 }
 
-// What the program said, shortened to what a person reads.
-std::string complaint(QProcess& process) {
+// What the program said last, shortened to what a person reads.
+std::string complaint(const QByteArray& said) {
   constexpr qsizetype kLongest = 300;
-  const QString said = QString::fromUtf8(process.readAllStandardError()).simplified();
-  if (said.isEmpty()) return "";
-  return " (" + toUtf8(said.size() > kLongest ? said.left(kLongest) + "…" : said) + ")";
+  const QString text = QString::fromUtf8(said).simplified();
+  if (text.isEmpty()) return "";
+  return " (" + toUtf8(text.size() > kLongest ? "…" + text.right(kLongest) : text) + ")";
 }
 
 }  // namespace
@@ -60,6 +60,8 @@ MailSender::MailSender(const QString& program, const QStringList& arguments,
         finish("The mail program " + toUtf8(process_.program()) + " can't be started.");
       },
       Qt::QueuedConnection);
+  QObject::connect(&process_, &QProcess::readyReadStandardError, &process_,
+                   [this] { keepWhatIsSaid(); });
   QObject::connect(&timer_, &QTimer::timeout, &timer_,
                    [this] { stop("The mail program took too long and was ended."); });
   timer_.setSingleShot(true);
@@ -93,13 +95,20 @@ void MailSender::onFinished(int exitCode, QProcess::ExitStatus status) {
   if (stopped_) return finish(stopped_);
   if (status == QProcess::CrashExit) return finish("The mail program crashed.");
   if (exitCode == EX_OK) return finish(std::nullopt);
-  finish(describeExit(exitCode) + complaint(process_));
+  keepWhatIsSaid();
+  finish(describeExit(exitCode) + complaint(said_));
 }
 
-void MailSender::finish(std::optional<std::string> failure) {
+// A program that says more than a person reads must not fill the memory.
+void MailSender::keepWhatIsSaid() {
+  constexpr qsizetype kKept = 4096;
+  said_ = (said_ + process_.readAllStandardError()).right(kKept);
+}
+
+void MailSender::finish(Failure failure) {
   timer_.stop();
   const Done done = std::exchange(done_, nullptr);
-  if (done) done(std::move(failure));
+  if (done) done(failure);
 }
 
 }  // namespace qv_commons::desktop

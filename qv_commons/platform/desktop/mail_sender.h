@@ -8,8 +8,9 @@
 #include <chrono>
 #include <functional>
 #include <memory>
-#include <optional>
 #include <string>
+
+#include "qv_commons/platform/desktop/outcome.h"
 
 namespace qv_commons::desktop {
 
@@ -23,7 +24,7 @@ class MailSender {
  public:
   // Called once, from the event loop: why the message was not sent, in a sentence for the user, or
   // nothing where it was. Must not destroy the sender.
-  using Done = std::function<void(std::optional<std::string> failure)>;
+  using Done = std::function<void(const Failure& failure)>;
 
   // Runs `program` with `arguments` and the file on its standard input. A program that takes longer
   // than `timeout` is ended and has failed.
@@ -41,11 +42,13 @@ class MailSender {
 
  private:
   void onFinished(int exitCode, QProcess::ExitStatus status);
-  void finish(std::optional<std::string> failure);
+  void finish(Failure failure);
   void killAll();
+  void keepWhatIsSaid();
 
   Done done_;
-  std::optional<std::string> stopped_;
+  Failure stopped_;
+  QByteArray said_;  // the end of what the program has said
   QProcess process_;
   QTimer timer_;
 };
