@@ -21,23 +21,22 @@ class Alert : public Link {};
 using Start = Link*;
 
 ViewController* byLibrary(Start start) {
-  return QV_ViewControllerHelper::topViewController(start->controller());
+  return QV_ViewControllerHelper::topViewController(start);
 }
 
 ViewController* byDynamicCast(Start start) {
-  ViewController* controller = start->controller();
+  ViewController* controller = start;
   while (controller != nullptr) {
-    NativeViewController* native = &controller->native();
-    if (dynamic_cast<Navigation*>(native) != nullptr) {
-      controller = native->childViewController();
+    if (dynamic_cast<Navigation*>(controller) != nullptr) {
+      controller = controller->childViewController();
       continue;
     }
     ViewController* next = nullptr;
-    if (dynamic_cast<Tabs*>(native) != nullptr) next = native->childViewController();
-    if (next == nullptr) next = native->presentedViewController();
+    if (dynamic_cast<Tabs*>(controller) != nullptr) next = controller->childViewController();
+    if (next == nullptr) next = controller->presentedViewController();
     if (next == nullptr) {
-      return dynamic_cast<Alert*>(native) != nullptr ? native->presentingViewController()
-                                                     : controller;
+      return dynamic_cast<Alert*>(controller) != nullptr ? controller->presentingViewController()
+                                                         : controller;
     }
     controller = next;
   }
@@ -47,7 +46,7 @@ ViewController* byDynamicCast(Start start) {
 ViewController* byRawChase(Start start) {
   Link* link = start;
   while (link->next() != nullptr) link = link->next();
-  return link->controller();
+  return link;
 }
 
 // A chain whose controllers lie in memory in its order, or in any order. Both stay for the whole

@@ -11,20 +11,24 @@ using namespace qv_commons;
 namespace {
 
 // What an adapter would have, with the least of its own.
-class Node final : public PresentationNode {
+class Native : public NativeController {
  public:
-  ViewController& controller() override { return controller_; }
-  void setModalInPresentation(bool) override {}
-  void setOverrideUserInterfaceStyle(UserInterfaceStyle) override {}
-  ViewController* childViewController() const override { return nullptr; }
+  using NativeController::NativeController;
+  void setModalInPresentation(bool) {}
+  void setOverrideUserInterfaceStyle(UserInterfaceStyle) {}
+  ViewController* childViewController() const { return nullptr; }
 
  protected:
   void show(bool) override {}
   void hide(bool) override {}
   void afterTransition(Completion) override {}
+};
 
- private:
-  ViewController controller_{*this};
+struct SearchBar {
+  void* field;
+  void* searchTextField() const { return field; }
+  void* valueForKey(std::string_view) const { return field; }
+  static void* toTextField(void* value) { return value; }
 };
 
 // What a host has: the program can't tell where it comes from, so nothing of it is worked out
@@ -32,7 +36,8 @@ class Node final : public PresentationNode {
 struct Host {
   Platform platform;
   std::shared_ptr<ViewController> home;
-  SearchBar& searchBar;
+  SearchBar searchBar;
+  Presentations presentations;
   std::weak_ptr<QV_SupportHelperDelegate> delegate;
   Color color;
   std::string text;
@@ -88,10 +93,10 @@ void useTime(Host& host) {
 
 void useViewUtilities(Host& host) {
   host.use(QV_ViewControllerHelper::topViewController(host.home.get()));
-  host.use(host.searchBar.qv_searchTextField_all_iOS_versions());
-  const auto node = std::make_shared<Node>();
-  node->presentViewController(host.home, true, nullptr);
-  node->dismissViewController(true, nullptr);
+  host.use(qv_searchTextField_all_iOS_versions(host.searchBar));
+  const auto controller = std::make_shared<NativeOf<ViewController, Native>>(host.presentations);
+  controller->presentViewController(host.home, true, nullptr);
+  controller->dismissViewController(true, nullptr);
 }
 
 }  // namespace

@@ -41,8 +41,8 @@ void contactSupport(std::ostream& out) {
   platform.mainBundle().info["CFBundleShortVersionString"] = std::string("2.4.1");
   platform.mainBundle().info["CFBundleVersion"] = std::string("317");
   platform.mainBundle().receiptLocation = "StoreKit/receipt";
-  platform.files().files["StoreKit/receipt"] = {"a receipt", ""};
-  platform.device().screenBounds = {375, 812};
+  platform.bundles().files["StoreKit/receipt"] = {"a receipt", ""};
+  platform.device().screenSize = {375, 812};
   platform.device().languages = {"en-GB"};
 
   const auto home = platform.makeViewController("home");
@@ -54,12 +54,12 @@ void contactSupport(std::ostream& out) {
   };
   contact();
   writeDown(out, "contact support", platform);
-  const auto& composer = platform.mail().composers().back();
+  const auto& composer = platform.viewControllers().composers().back();
   out << composer->message().body << "\n\n";
   composer->finish(MailComposeResult::sent);
   writeDown(out, "the user sends", platform);
 
-  platform.mail().available = false;
+  platform.viewControllers().mailAvailable = false;
   contact();
   writeDown(out, "contact support, without mail", platform);
 }

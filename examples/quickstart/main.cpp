@@ -11,5 +11,5 @@ int main() {
   auto home = memory.makeViewController("home");
   qv_commons::QV_SupportHelper::shared().contactSupport(
       *home, "support@example.com", "Help", {"pro_monthly"}, "Hello!", std::nullopt, {});
-  std::cout << memory.mail().composers().front()->message().body;
+  std::cout << memory.viewControllers().composers().front()->message().body;
 }

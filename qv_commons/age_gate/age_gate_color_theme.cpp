@@ -2,6 +2,9 @@
 
 #include <utility>
 
+#include "qv_commons/platform/device.h"
+#include "qv_commons/platform/platform.h"
+
 namespace qv_commons {
 namespace {
 
@@ -36,10 +39,9 @@ std::shared_ptr<QV_AgeGateColorTheme> defaultThemeFor(bool systemIsAtLeast13, bo
 }
 
 std::shared_ptr<QV_AgeGateColorTheme> defaultThemeOf(const Platform& platform) {
-  const bool systemIsAtLeast13 =
-      platform.systemVersion.isOperatingSystemAtLeastVersion(kSystemVersion13);
+  const bool systemIsAtLeast13 = platform.device.isOperatingSystemAtLeastVersion(kSystemVersion13);
   const bool styleIsDark =
-      systemIsAtLeast13 && platform.screen.userInterfaceStyle() == UserInterfaceStyle::dark;
+      systemIsAtLeast13 && platform.device.userInterfaceStyle() == UserInterfaceStyle::dark;
   return defaultThemeFor(systemIsAtLeast13, styleIsDark);
 }
 

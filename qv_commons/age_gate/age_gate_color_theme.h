@@ -15,10 +15,11 @@
 
 #include <memory>
 
-#include "qv_commons/platform/platform.h"
-#include "qv_commons/platform/views.h"
+#include "qv_commons/platform/color.h"
 
 namespace qv_commons {
+
+struct Platform;
 
 class QV_AgeGateColorTheme {
  public:
@@ -29,21 +30,21 @@ class QV_AgeGateColorTheme {
   QV_AgeGateColorTheme(const QV_AgeGateColorTheme&) = delete;
   QV_AgeGateColorTheme& operator=(const QV_AgeGateColorTheme&) = delete;
 
-  // A new theme at each call: the dark palette where the system's version is 13.0 or later and its
+  // A new theme at each call: the dark palette if the system's version is 13.0 or later and its
   // look is dark at this moment, otherwise the light one. Never null. Main thread.
   static std::shared_ptr<QV_AgeGateColorTheme> defaultTheme();
 
   Color buttonBGColor;      // of the confirm button
   Color buttonTextColor;    // the confirm button's title while it is enabled
   Color backgroundColor;    // of a screen's panel
-  Color textColor;          // headings, and all text that is no link
+  Color textColor;          // headings, and all text that is not a link
   Color policiesTextColor;  // links, and the confirm button's title while it is disabled
 };
 
 // What `defaultTheme()` decides, from its two inputs alone. Any thread.
 std::shared_ptr<QV_AgeGateColorTheme> defaultThemeFor(bool systemIsAtLeast13, bool styleIsDark);
 
-// `defaultTheme()` for callers that hold a platform. The look is asked for from 13.0 on only.
+// `defaultTheme()` for a given platform. The look is read from version 13.0 on only.
 std::shared_ptr<QV_AgeGateColorTheme> defaultThemeOf(const Platform& platform);
 
 }  // namespace qv_commons

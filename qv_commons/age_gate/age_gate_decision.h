@@ -8,11 +8,11 @@
 #include <cstdint>
 #include <string_view>
 
-#include "qv_commons/platform/user_defaults.h"
-
 namespace qv_commons {
 
-// True once the user has confirmed a date of birth, whatever came of it.
+class UserDefaults;
+
+// True once the user has confirmed a date of birth, whatever the outcome.
 inline constexpr std::string_view kAgeGateShownKey = "QV_AgeGate_Shown";
 
 // True once a confirmed date of birth gave an age below the minimum.
@@ -20,17 +20,13 @@ inline constexpr std::string_view kAgeGateBlockedKey = "QV_AgeGate_Blocked";
 
 enum class AgeGateStartDecision : std::uint8_t { presentAgeGate, callCompletion, presentRefused };
 
-// `blocked` counts only where `shown` is true. Any thread.
+// `blocked` counts only if `shown` is true. Any thread.
 constexpr AgeGateStartDecision decideAgeGateStart(bool shown, bool blocked) {
   if (!shown) return AgeGateStartDecision::presentAgeGate;
   return blocked ? AgeGateStartDecision::presentRefused : AgeGateStartDecision::callCompletion;
 }
 
-// Reads the flags and decides; the second is read only where the first is true. Main thread.
-inline AgeGateStartDecision decideAgeGateStart(const UserDefaults& userDefaults) {
-  const bool shown = userDefaults.boolForKey(kAgeGateShownKey);
-  const bool blocked = shown && userDefaults.boolForKey(kAgeGateBlockedKey);
-  return decideAgeGateStart(shown, blocked);
-}
+// Reads the flags and decides; the second is read only if the first is true. Main thread.
+AgeGateStartDecision decideAgeGateStart(const UserDefaults& userDefaults);
 
 }  // namespace qv_commons

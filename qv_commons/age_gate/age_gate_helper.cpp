@@ -5,21 +5,29 @@
 #include "qv_commons/age_gate/age_gate_decision.h"
 #include "qv_commons/age_gate/age_gate_view_controller.h"
 #include "qv_commons/age_gate/refused_screen.h"
+#include "qv_commons/platform/device.h"
 #include "qv_commons/platform/fatal_error.h"
 #include "qv_commons/platform/platform.h"
+#include "qv_commons/platform/user_defaults.h"
 
 namespace qv_commons {
 namespace {
 
 std::shared_ptr<QV_AgeGateViewController> makeAgeGateScreen(const Platform& platform) {
   auto screen = QV_AgeGateViewController::create(platform);
-  if (platform.systemVersion.isOperatingSystemAtLeastVersion(kSystemVersion13)) {
+  if (platform.device.isOperatingSystemAtLeastVersion(kSystemVersion13)) {
     screen->setModalInPresentation(true);
   }
   return screen;
 }
 
 }  // namespace
+
+AgeGateStartDecision decideAgeGateStart(const UserDefaults& userDefaults) {
+  const bool shown = userDefaults.boolForKey(kAgeGateShownKey);
+  const bool blocked = shown && userDefaults.boolForKey(kAgeGateBlockedKey);
+  return decideAgeGateStart(shown, blocked);
+}
 
 void QV_AgeGateHelper::startAgeGateProcess(std::shared_ptr<ViewController> viewController,
                                            std::int64_t minimumAgeRequired, Completion completion,

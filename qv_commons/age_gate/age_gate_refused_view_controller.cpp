@@ -1,12 +1,15 @@
 #include "qv_commons/age_gate/age_gate_refused_view_controller.h"
 
 #include <optional>
+#include <utility>
 
 #include "qv_commons/age_gate/app_name_placeholder.h"
 #include "qv_commons/age_gate/policy_links.h"
 #include "qv_commons/age_gate/screen_parts.h"
 #include "qv_commons/app_info/app_info.h"
+#include "qv_commons/platform/bundle.h"
 #include "qv_commons/platform/fatal_error.h"
+#include "qv_commons/platform/platform.h"
 
 namespace qv_commons {
 namespace {
@@ -24,12 +27,12 @@ std::shared_ptr<QV_AgeGateRefusedViewController> QV_AgeGateRefusedViewController
   return makeScreen<QV_AgeGateRefusedViewController>(platform);
 }
 
-QV_AgeGateRefusedViewController::QV_AgeGateRefusedViewController(NativeViewController& native,
-                                                                 const Platform& platform)
-    : LayoutScreen(native), colorTheme(defaultThemeOf(platform)), platform_(platform) {}
+QV_AgeGateRefusedViewController::QV_AgeGateRefusedViewController(
+    std::unique_ptr<ViewController> native, const Platform& platform)
+    : LayoutScreen(std::move(native)), colorTheme(defaultThemeOf(platform)), platform_(platform) {}
 
 std::vector<Outlet> QV_AgeGateRefusedViewController::outlets() {
-  return {{"bg", &bg}, {"contact", &contact}, {"tos", &tos}, {"header", &header}};
+  return {{"bg", bg}, {"contact", contact}, {"tos", tos}, {"header", header}};
 }
 
 void QV_AgeGateRefusedViewController::viewDidLoad() {

@@ -17,9 +17,7 @@
 
 #include "qv_commons/age_gate/age_gate_color_theme.h"
 #include "qv_commons/age_gate/contact_us_handler.h"
-#include "qv_commons/platform/layout_loader.h"
-#include "qv_commons/platform/platform.h"
-#include "qv_commons/platform/views.h"
+#include "qv_commons/platform/layout_screen.h"
 
 namespace qv_commons {
 
@@ -32,8 +30,8 @@ class QV_AgeGateRefusedViewController final : public LayoutScreen, public TextVi
   // outlive it.
   static std::shared_ptr<QV_AgeGateRefusedViewController> create(const Platform& platform);
 
-  // For adapters: the C++ side of `native`, with every field at its default.
-  QV_AgeGateRefusedViewController(NativeViewController& native, const Platform& platform);
+  // For adapters: with every field at its default. `native` shows the screen.
+  QV_AgeGateRefusedViewController(std::unique_ptr<ViewController> native, const Platform& platform);
 
   // Connected by the layout.
   std::weak_ptr<View> bg;           // the panel
@@ -47,6 +45,7 @@ class QV_AgeGateRefusedViewController final : public LayoutScreen, public TextVi
   std::shared_ptr<QV_AgeGateColorTheme> colorTheme;  // at first `defaultTheme()`
   ContactUsHandler contactUsHandler;
 
+  std::string_view headingOutlet() const override { return "header"; }
   std::vector<Outlet> outlets() override;
   std::vector<Action> actions() override { return {}; }
 

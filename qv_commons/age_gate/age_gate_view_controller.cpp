@@ -1,10 +1,15 @@
 #include "qv_commons/age_gate/age_gate_view_controller.h"
 
+#include <utility>
+
 #include "qv_commons/age_gate/age_gate_decision.h"
 #include "qv_commons/age_gate/birth_date.h"
 #include "qv_commons/age_gate/policy_links.h"
 #include "qv_commons/age_gate/refused_screen.h"
 #include "qv_commons/age_gate/screen_parts.h"
+#include "qv_commons/platform/clock.h"
+#include "qv_commons/platform/platform.h"
+#include "qv_commons/platform/user_defaults.h"
 
 namespace qv_commons {
 
@@ -13,13 +18,13 @@ std::shared_ptr<QV_AgeGateViewController> QV_AgeGateViewController::create(
   return makeScreen<QV_AgeGateViewController>(platform);
 }
 
-QV_AgeGateViewController::QV_AgeGateViewController(NativeViewController& native,
+QV_AgeGateViewController::QV_AgeGateViewController(std::unique_ptr<ViewController> native,
                                                    const Platform& platform)
-    : LayoutScreen(native), colorTheme(defaultThemeOf(platform)), platform_(platform) {}
+    : LayoutScreen(std::move(native)), colorTheme(defaultThemeOf(platform)), platform_(platform) {}
 
 std::vector<Outlet> QV_AgeGateViewController::outlets() {
-  return {{"bg", &bg},   {"confirmBtn", &confirmBtn}, {"datePicker", &datePicker},
-          {"tos", &tos}, {"header", &header},         {"subtitle", &subtitle}};
+  return {{"bg", bg},   {"confirmBtn", confirmBtn}, {"datePicker", datePicker},
+          {"tos", tos}, {"header", header},         {"subtitle", subtitle}};
 }
 
 std::vector<Action> QV_AgeGateViewController::actions() {
@@ -48,7 +53,7 @@ void QV_AgeGateViewController::setUpConfirmButton() {
 }
 
 void QV_AgeGateViewController::setUpDatePicker() {
-  const double now = platform_.clock.timeIntervalSince1970();
+  const Instant now = platform_.clock.now();
   const auto picker = connected(*this, datePicker, "datePicker");
   picker->setMaximumDate(platform_.calendar.dateByAddingYears(now, 1));
   picker->setDate(now);
@@ -59,12 +64,13 @@ void QV_AgeGateViewController::onDateChanged() {
 }
 
 void QV_AgeGateViewController::onConfirmPressed() {
+  if (std::exchange(isConfirmed_, true)) return;
   // The dismissal, or the host, may give up the last reference to this screen.
   const std::shared_ptr<ViewController> self = retained();
   dismissViewController(true, nullptr);
   platform_.userDefaults.setBool(true, kAgeGateShownKey);
-  const double birth = connected(*this, datePicker, "datePicker")->date();
-  const double now = platform_.clock.timeIntervalSince1970();
+  const BirthDate birth = {connected(*this, datePicker, "datePicker")->date()};
+  const Instant now = platform_.clock.now();
   if (judgeBirthDate(birth, now, platform_.calendar, minimumAgerequired) ==
       AgeGateVerdict::refused) {
     refuse();

@@ -19,9 +19,7 @@
 
 #include "qv_commons/age_gate/age_gate_color_theme.h"
 #include "qv_commons/age_gate/contact_us_handler.h"
-#include "qv_commons/platform/layout_loader.h"
-#include "qv_commons/platform/platform.h"
-#include "qv_commons/platform/views.h"
+#include "qv_commons/platform/layout_screen.h"
 
 namespace qv_commons {
 
@@ -34,8 +32,8 @@ class QV_AgeGateViewController final : public LayoutScreen {
   // outlive it.
   static std::shared_ptr<QV_AgeGateViewController> create(const Platform& platform);
 
-  // For adapters: the C++ side of `native`, with every field at its default.
-  QV_AgeGateViewController(NativeViewController& native, const Platform& platform);
+  // For adapters: with every field at its default. `native` shows the screen.
+  QV_AgeGateViewController(std::unique_ptr<ViewController> native, const Platform& platform);
 
   // Connected by the layout.
   std::weak_ptr<View> bg;  // the panel
@@ -54,6 +52,7 @@ class QV_AgeGateViewController final : public LayoutScreen {
   Completion completionHandler;                      // for a user who is old enough
   ContactUsHandler contactUsHandler;                 // handed on to the refusal
 
+  std::string_view headingOutlet() const override { return "header"; }
   std::vector<Outlet> outlets() override;
   std::vector<Action> actions() override;
 
@@ -65,9 +64,10 @@ class QV_AgeGateViewController final : public LayoutScreen {
   // The user has picked a date: confirming becomes possible, and stays so.
   void onDateChanged();
 
-  // The user confirms: takes the screen away, remembers that it was shown, and judges the date that
+  // The user confirms: dismisses the screen, remembers that it was shown, and judges the date that
   // the picker shows. Old enough: calls `completionHandler` at once. Under age: remembers that too
-  // and has `viewController`, if there is one, present the refusal.
+  // and has `viewController`, if there is one, present the refusal. The outcome is persisted before
+  // either. A second confirm of the same screen does nothing.
   void onConfirmPressed();
 
  private:
@@ -76,6 +76,7 @@ class QV_AgeGateViewController final : public LayoutScreen {
   void refuse();
 
   const Platform& platform_;
+  bool isConfirmed_ = false;
 };
 
 }  // namespace qv_commons

@@ -9,8 +9,8 @@
 
 namespace qv_commons {
 
-// `text` with `appName` in the place of every "[APPNAME]", spelled exactly so. What an app's name
-// itself brings along is not looked through again. Any thread.
+// `text` with every "[APPNAME]", spelled exactly so, replaced by `appName`. A placeholder within
+// the app's name is not replaced again. Any thread.
 std::string fillInAppName(std::string_view text, std::string_view appName);
 
 }  // namespace qv_commons

@@ -6,13 +6,13 @@
 
 namespace qv_commons {
 
-std::int64_t ageInYears(double birth, double now, const Calendar& calendar) {
-  const std::optional<std::int64_t> years = calendar.yearsBetween(birth, now);
+std::int64_t ageInYears(BirthDate birth, Instant now, const Calendar& calendar) {
+  const std::optional<std::int64_t> years = calendar.yearsBetween(birth.instant, now);
   if (!years) fatalError("ageInYears: the calendar gives no years between birth and now");
   return *years;
 }
 
-AgeGateVerdict judgeBirthDate(double birth, double now, const Calendar& calendar,
+AgeGateVerdict judgeBirthDate(BirthDate birth, Instant now, const Calendar& calendar,
                               std::int64_t minimumAge) {
   return ageInYears(birth, now, calendar) >= minimumAge ? AgeGateVerdict::allowed
                                                         : AgeGateVerdict::refused;

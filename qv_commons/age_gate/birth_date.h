@@ -1,12 +1,12 @@
 // Judging a date of birth.
 //
-//     constexpr double kBirth = 951782400;  // 2000-02-29, in seconds since 1970
-//     constexpr double kNow = 1709078400;   // 2024-02-28
-//     auto age = qv_commons::ageInYears(kBirth, kNow, platform.calendar());  // 23
+//     constexpr qv_commons::BirthDate kBirth = {qv_commons::instantAt(951782400)};  // 2000-02-29
+//     constexpr qv_commons::Instant kNow = qv_commons::instantAt(1709078400);       // 2024-02-28
+//     auto age = qv_commons::ageInYears(kBirth, kNow, platform.calendar());         // 23
 //     bool allowed = qv_commons::judgeBirthDate(kBirth, kNow, platform.calendar(), 18) ==
 //                    qv_commons::AgeGateVerdict::allowed;
 //
-// Instants are seconds since 1970-01-01 00:00:00 UTC. Main thread.
+// Main thread.
 #pragma once
 
 #include <cstdint>
@@ -17,14 +17,18 @@ namespace qv_commons {
 
 enum class AgeGateVerdict : std::uint8_t { allowed, refused };
 
-// The whole calendar years from `birth` to `now`, as `calendar` counts them: a year is complete
-// when the month, day and time of day of the birth have come round again. A birth that lies ahead
-// gives 0, or minus the whole years until then. Asks the calendar once; a fatal error where it
-// can't tell.
-std::int64_t ageInYears(double birth, double now, const Calendar& calendar);
+// A type of its own, so that it can't be taken for the current instant.
+struct BirthDate {
+  Instant instant;
+};
 
-// Allowed where the age is `minimumAge` or more.
-AgeGateVerdict judgeBirthDate(double birth, double now, const Calendar& calendar,
+// The whole calendar years from `birth` to `now`, as `calendar` counts them: a year is complete
+// when the month, day and time of day of the birth have been reached again. A future date gives 0,
+// or minus the whole years until then. Asks the calendar once; a fatal error if it can't tell.
+std::int64_t ageInYears(BirthDate birth, Instant now, const Calendar& calendar);
+
+// Allowed if the age is `minimumAge` or more.
+AgeGateVerdict judgeBirthDate(BirthDate birth, Instant now, const Calendar& calendar,
                               std::int64_t minimumAge);
 
 }  // namespace qv_commons

@@ -13,7 +13,7 @@
 namespace qv_commons {
 
 // Called on the main thread with the refusal screen, over which the host may present its own; an
-// empty one stands for "absent".
+// empty one means that there is none.
 using ContactUsHandler = std::function<void(ViewController&)>;
 
 }  // namespace qv_commons

@@ -5,7 +5,9 @@
 #include <memory>
 #include <string>
 
+#include "qv_commons/age_gate/age_gate_color_theme.h"
 #include "qv_commons/platform/fatal_error.h"
+#include "qv_commons/platform/views.h"
 
 namespace qv_commons {
 namespace {

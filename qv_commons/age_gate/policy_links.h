@@ -13,10 +13,12 @@
 
 #include <string_view>
 
-#include "qv_commons/age_gate/age_gate_color_theme.h"
-#include "qv_commons/platform/views.h"
+#include "qv_commons/platform/text_range.h"
 
 namespace qv_commons {
+
+class QV_AgeGateColorTheme;
+class TextView;
 
 inline constexpr TextRange kPrivacyLinkRange = {0, 14};
 inline constexpr TextRange kTermsOfServiceLinkRange = {17, 16};

@@ -2,6 +2,9 @@
 
 #include <utility>
 
+#include "qv_commons/platform/device.h"
+#include "qv_commons/platform/platform.h"
+
 namespace qv_commons {
 
 std::shared_ptr<QV_AgeGateRefusedViewController> makeRefusedScreen(const Platform& platform,
@@ -12,10 +15,10 @@ std::shared_ptr<QV_AgeGateRefusedViewController> makeRefusedScreen(const Platfor
   screen->privacyLink = std::move(content.privacyLink);
   screen->termsOfServiceLink = std::move(content.termsOfServiceLink);
   screen->colorTheme = std::move(content.colorTheme);
-  if (platform.systemVersion.isOperatingSystemAtLeastVersion(kSystemVersion13)) {
+  if (platform.device.isOperatingSystemAtLeastVersion(kSystemVersion13)) {
     screen->setModalInPresentation(true);
     if (look == RefusedScreenLook::pinned) {
-      screen->setOverrideUserInterfaceStyle(platform.screen.userInterfaceStyle());
+      screen->setOverrideUserInterfaceStyle(platform.device.userInterfaceStyle());
     }
   }
   return screen;

@@ -4,25 +4,27 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "qv_commons/app_info/resource_bundle.h"
 #include "qv_commons/platform/platform.h"
+#include "qv_commons/platform/view_controllers.h"
 
 namespace qv_commons {
 
-// A new screen from the layout that bears its class's name.
+// A new screen from the layout that has its class's name.
 template <class Screen>
 std::shared_ptr<Screen> makeScreen(const Platform& platform) {
-  return std::static_pointer_cast<Screen>(
-      platform.layoutLoader.initWithNibName(Screen::kClassName, resourceBundleOf(platform.bundles),
-                                            [&platform](NativeViewController& native) {
-                                              return std::make_unique<Screen>(native, platform);
-                                            }));
+  return std::static_pointer_cast<Screen>(platform.viewControllers.initWithNibName(
+      Screen::kClassName, resourceBundleOf(platform.bundles),
+      [&platform](std::unique_ptr<ViewController> native) {
+        return std::make_shared<Screen>(std::move(native), platform);
+      }));
 }
 
 [[noreturn]] void stopAtOutlet(std::string_view screen, std::string_view name);
 
-// The view behind the outlet `name`; a fatal error where it is not connected.
+// The view behind the outlet `name`; a fatal error if it is not connected.
 template <class Screen, class ViewType>
 std::shared_ptr<ViewType> connected(const Screen&, const std::weak_ptr<ViewType>& outlet,
                                     std::string_view name) {

@@ -1,6 +1,7 @@
 #include "qv_commons/app_info/app_info_helper.h"
 
 #include "qv_commons/app_info/app_info.h"
+#include "qv_commons/platform/bundle.h"
 #include "qv_commons/platform/platform.h"
 
 namespace qv_commons {

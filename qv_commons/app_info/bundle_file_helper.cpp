@@ -2,6 +2,8 @@
 
 #include "qv_commons/app_info/resource_bundle.h"
 #include "qv_commons/app_info/utf8.h"
+#include "qv_commons/platform/bundle.h"
+#include "qv_commons/platform/console.h"
 #include "qv_commons/platform/platform.h"
 
 namespace qv_commons {
@@ -15,7 +17,7 @@ std::optional<std::string> QV_BundleFileHelper::loadJsonFromBundle(std::string_v
   const std::optional<FileLocation> location =
       platform.bundles.mainBundle().URLForResource(filename, "json");
   if (!location) return std::nullopt;
-  FileContents file = platform.files.read(*location);
+  FileContents file = platform.bundles.read(*location);
   if (file.bytes && isUtf8(*file.bytes)) return std::move(file.bytes);
   platform.console.print(std::string("QV_BundleFileHelper - Error!! Unable to parse  ")
                              .append(filename)

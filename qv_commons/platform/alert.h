@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <memory>
 #include <string>
 
 #include "qv_commons/platform/view_controller.h"
@@ -15,21 +14,11 @@ enum class AlertActionStyle : std::int8_t { standard = 0, cancel = 1, destructiv
 
 class AlertController : public ViewController {
  public:
-  using ViewController::ViewController;
+  AlertController() : ViewController(ViewControllerKind::alert) {}
 
-  // Adds a button after those that are there. A tap takes the alert away, then runs `handler`, if
+  // Adds a button after those that are there. A tap dismisses the alert, then runs `handler`, if
   // present.
   virtual void addAction(std::string title, AlertActionStyle style, Completion handler) = 0;
-};
-
-class Alerts {
- public:
-  virtual ~Alerts() = default;
-
-  // A new alert without buttons, not yet presented; never null.
-  virtual std::shared_ptr<AlertController> makeAlertController(std::string title,
-                                                               std::string message,
-                                                               AlertStyle preferredStyle) = 0;
 };
 
 }  // namespace qv_commons

@@ -1,4 +1,4 @@
-// Bundles: the folders that hold an app's or a library's particulars and files.
+// Bundles: the folders that hold an app's or a library's information and files.
 //
 //     const qv_commons::Bundle& app = qv_commons::currentPlatform().bundles.mainBundle();
 //     std::optional<std::string> identifier = app.bundleIdentifier();
@@ -20,12 +20,17 @@ namespace qv_commons {
 // ever handed back to the adapter that gave it.
 using FileLocation = std::string;
 
+struct FileContents {
+  std::optional<std::string> bytes;  // the whole file; std::nullopt if it could not be read
+  std::string errorDescription;      // why not, in the platform's words; empty on success
+};
+
 // A value of another type than those the library tells apart: a list, a dictionary, a date.
 struct OtherObject {
   friend bool operator==(OtherObject, OtherObject) = default;
 };
 
-// A value of an info dictionary; `std::monostate` where the key is absent.
+// A value of an info dictionary; `std::monostate` if the key is absent.
 using InfoDictionaryValue =
     std::variant<std::monostate, std::string, std::int64_t, double, bool, OtherObject>;
 
@@ -36,14 +41,14 @@ class Bundle {
   // The value under `key` with the type it has; never converted.
   virtual InfoDictionaryValue objectForInfoDictionaryKey(std::string_view key) const = 0;
 
-  // Nothing where the bundle has no identifier.
+  // std::nullopt if the bundle has no identifier.
   virtual std::optional<std::string> bundleIdentifier() const = 0;
 
-  // Where the store's receipt would be; nothing where the platform names no place. The file need
-  // not exist.
+  // Where the store's receipt would be; std::nullopt if the platform has no location for it. The
+  // file need not exist.
   virtual std::optional<FileLocation> appStoreReceiptURL() const = 0;
 
-  // Where the bundle's resource `name` with that extension (without the dot) is; nothing where it
+  // Where the bundle's resource `name` with that extension (without the dot) is; std::nullopt if it
   // has none.
   virtual std::optional<FileLocation> URLForResource(std::string_view name,
                                                      std::string_view extension) const = 0;
@@ -59,8 +64,12 @@ class Bundles {
   // The bundle that holds the library's own code; the same object at every call.
   virtual const Bundle& libraryBundle() const = 0;
 
-  // The bundle at `location`; null where it can't be opened.
+  // The bundle at `location`; null if it can't be opened.
   virtual std::shared_ptr<Bundle> bundleWithURL(const FileLocation& location) const = 0;
+
+  // The whole file at `location`. A folder, a missing or an unreadable file gives no bytes and a
+  // description.
+  virtual FileContents read(const FileLocation& location) const = 0;
 };
 
 }  // namespace qv_commons

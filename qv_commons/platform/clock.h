@@ -1,15 +1,15 @@
 // The wall clock.
 #pragma once
 
+#include "qv_commons/platform/instant.h"
+
 namespace qv_commons {
 
 class Clock {
  public:
   virtual ~Clock() = default;
 
-  // Seconds since 1970-01-01 00:00:00 UTC, with their fraction, for example 1700000000.25. Any
-  // thread.
-  virtual double timeIntervalSince1970() const = 0;
+  virtual Instant now() const = 0;  // any thread
 };
 
 }  // namespace qv_commons

@@ -17,7 +17,7 @@ class MailComposer;
 // How the user left the composer. The numeric values are the platform's own.
 enum class MailComposeResult : std::int8_t { cancelled = 0, saved = 1, sent = 2, failed = 3 };
 
-// The file attached to a message. `data` holds bytes.
+// A file attached to a message. `data` holds bytes.
 struct MailAttachment {
   std::string data;
   std::string mimeType;  // used as spelled
@@ -29,31 +29,18 @@ class MailComposeDelegate {
   virtual ~MailComposeDelegate() = default;
 
   // Called once the user has left `controller`, which is still on the screen. `error` is the
-  // platform's description, empty where there is none.
+  // platform's description, empty if there is none.
   virtual void mailComposeController(MailComposer& controller, MailComposeResult result,
                                      const std::string& error) = 0;
 };
 
 class MailComposer : public ViewController {
  public:
-  using ViewController::ViewController;
-
   virtual void setToRecipients(std::vector<std::string> recipients) = 0;
   virtual void setSubject(std::string subject) = 0;
   virtual void setMailComposeDelegate(std::weak_ptr<MailComposeDelegate> delegate) = 0;
   virtual void setMessageBody(std::string body, bool isHTML) = 0;
   virtual void addAttachment(MailAttachment attachment) = 0;
-};
-
-class MailComposers {
- public:
-  virtual ~MailComposers() = default;
-
-  // Whether this device can send mail at all; asked before a composer is made.
-  virtual bool canSendMail() const = 0;
-
-  // A new, empty composer; never null.
-  virtual std::shared_ptr<MailComposer> makeMailComposer() = 0;
 };
 
 }  // namespace qv_commons

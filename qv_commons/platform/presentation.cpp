@@ -1,76 +1,65 @@
 #include "qv_commons/platform/presentation.h"
 
-#include <algorithm>
-#include <utility>
-
 #include "qv_commons/platform/fatal_error.h"
 
 namespace qv_commons {
 
-PresentationNode::~PresentationNode() {
-  for (const auto& presented : presented_) nodeOf(*presented).presenter_ = nullptr;
+void Presentations::dismissAll() {
+  while (!presenting_.empty()) {
+    const std::shared_ptr<ViewController> presenter = presenting_.begin()->second;
+    NativeController::of(*presenter).NativeController::dismiss(false, nullptr);
+  }
 }
 
-void PresentationNode::presentViewController(std::shared_ptr<ViewController> controller,
-                                             bool animated, Completion completion) {
-  PresentationNode& node = nodeOf(*controller);
-  if (node.presenter_ != nullptr) fatalError("a view controller is presented twice");
-  node.presenter_ = this;
-  presented_.push_back(std::move(controller));
-  node.show(animated);
+NativeController& NativeController::of(ViewController& controller) {
+  auto* native = dynamic_cast<NativeController*>(&controller.native());
+  if (native == nullptr) fatalError("a view controller belongs to another adapter");
+  return *native;
+}
+
+void NativeController::present(std::shared_ptr<ViewController> controller, bool animated,
+                               Completion completion) {
+  NativeController& native = of(*controller);
+  if (native.presenter_ != nullptr) fatalError("a view controller is presented twice");
+  native.presenter_ = this;
+  native.before_ = std::exchange(presented_, std::move(controller));
+  presentations_.presenting_.insert_or_assign(this, controller_->retained());
+  native.show(animated);
   if (completion) afterTransition(std::move(completion));
 }
 
-void PresentationNode::dismissViewController(bool animated, Completion completion) {
-  Controllers taken;
-  if (!presented_.empty()) {
-    takeAllAbove(taken);
+void NativeController::dismiss(bool animated, Completion completion) {
+  Removed removed;
+  if (presented_) {
+    removeAllPresented(removed);
   } else if (presenter_ != nullptr) {
-    taken = presenter_->takeAway(*this);
+    presenter_->removePresented(*this, removed);
   } else {
     return;
   }
-  for (auto top = taken.rbegin(); top != taken.rend(); ++top) {
-    nodeOf(**top).presenter_ = nullptr;
-    nodeOf(**top).hide(animated);
-  }
-  afterTransition([taken = std::move(taken), completion = std::move(completion)] {
+  for (const auto& screen : removed.screens) of(*screen).hide(animated);
+  afterTransition([removed = std::move(removed), completion = std::move(completion)] {
     if (completion) completion();
   });
 }
 
-ViewController* PresentationNode::presentedViewController() const {
-  return presented_.empty() ? nullptr : presented_.back().get();
-}
-
-ViewController* PresentationNode::presentingViewController() const {
-  return presenter_ == nullptr ? nullptr : &presenter_->controller();
-}
-
-std::shared_ptr<ViewController> PresentationNode::retained() {
-  return {shared_from_this(), &controller()};
-}
-
-// One process has one adapter, so every native that comes in is one of its nodes.
-PresentationNode& PresentationNode::nodeOf(const ViewController& controller) {
-  return static_cast<PresentationNode&>(controller.native());
-}
-
-PresentationNode::Controllers PresentationNode::takeAway(const PresentationNode& presented) {
-  const auto found =
-      std::find_if(presented_.begin(), presented_.end(),
-                   [&](const auto& controller) { return &nodeOf(*controller) == &presented; });
-  Controllers taken{std::move(*found)};
-  presented_.erase(found);
-  return taken;
-}
-
-void PresentationNode::takeAllAbove(Controllers& taken) {
-  for (std::shared_ptr<ViewController>& controller : std::exchange(presented_, {})) {
-    PresentationNode& node = nodeOf(*controller);
-    taken.push_back(std::move(controller));
-    node.takeAllAbove(taken);
+void NativeController::removeAllPresented(Removed& removed) {
+  while (presented_) {
+    NativeController& last = of(*presented_);
+    last.removeAllPresented(removed);
+    removePresented(last, removed);
   }
+}
+
+void NativeController::removePresented(NativeController& native, Removed& removed) {
+  std::shared_ptr<ViewController>* place = &presented_;
+  while (&of(**place) != &native) place = &of(**place).before_;
+  removed.screens.push_back(std::exchange(*place, std::exchange(native.before_, nullptr)));
+  native.presenter_ = nullptr;
+  if (presented_) return;
+  const auto self = presentations_.presenting_.find(this);
+  removed.presenters.push_back(std::move(self->second));
+  presentations_.presenting_.erase(self);
 }
 
 }  // namespace qv_commons

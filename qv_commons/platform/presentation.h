@@ -1,67 +1,136 @@
 // Presentation for adapters whose system has none of its own: who is shown over whom.
 //
-// An adapter derives from `PresentationNode` and says how a screen is shown and hidden:
+// An adapter derives its natives from `NativeController`, says how a screen is shown and hidden,
+// and makes controllers of them with `NativeOf`:
 //
-//     class Window : public qv_commons::PresentationNode {
+//     class Window : public qv_commons::NativeController {
+//      public:
+//       using NativeController::NativeController;
+//       // and what an adapter does about these three:
+//       // void setModalInPresentation(bool modal);
+//       // void setOverrideUserInterfaceStyle(UserInterfaceStyle style);
+//       // ViewController* childViewController() const;
+//      protected:
 //       void show(bool) override { /* put it on the screen */ }
-//       void hide(bool) override { /* take it away */ }
+//       void hide(bool) override { /* remove it */ }
 //       void afterTransition(qv_commons::Completion completion) override { completion(); }
-//       // and what the rest of NativeViewController asks for
 //     };
+//     using WindowController = qv_commons::NativeOf<qv_commons::ViewController, Window>;
 //
 // Main thread only.
 #pragma once
 
+#include <map>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "qv_commons/platform/view_controller.h"
 
 namespace qv_commons {
 
-class PresentationNode : public NativeViewController,
-                         public std::enable_shared_from_this<PresentationNode> {
+class NativeController;
+
+// The controllers of an adapter that present something, all kept alive. Outlives its controllers.
+class Presentations {
  public:
-  using NativeViewController::NativeViewController;
-  ~PresentationNode() override;
+  Presentations() = default;
+  Presentations(const Presentations&) = delete;
+  Presentations& operator=(const Presentations&) = delete;
+
+  // Dismisses everything that is presented, without animation.
+  void dismissAll();
+
+ private:
+  friend class NativeController;
+  std::map<const NativeController*, std::shared_ptr<ViewController>> presenting_;
+};
+
+class NativeController {
+ public:
+  // The native of `controller`, which is either that controller itself or, for the library's
+  // screens, the one that owns it. Both live equally long.
+  NativeController(ViewController& controller, Presentations& presentations)
+      : controller_(&controller), presentations_(presentations) {}
+  virtual ~NativeController() = default;
+  NativeController(const NativeController&) = delete;
+  NativeController& operator=(const NativeController&) = delete;
+
+  // The native of a controller that this process's adapter made.
+  static NativeController& of(ViewController& controller);
+
+  // What the library and hosts know this native by.
+  ViewController& controller() const { return *controller_; }
+  void setController(ViewController& controller) { controller_ = &controller; }
 
   // Presenting over a controller that presents something already puts the new one on top of that;
   // each of them can be dismissed by itself. Presenting what is on the screen already is a fatal
   // error.
-  void presentViewController(std::shared_ptr<ViewController> controller, bool animated,
-                             Completion completion) override;
+  void present(std::shared_ptr<ViewController> controller, bool animated, Completion completion);
 
-  // What is taken away is hidden from the top down and stays alive until `completion` has run.
-  void dismissViewController(bool animated, Completion completion) override;
+  // What is removed is hidden from the top down and stays alive until `completion` has run.
+  void dismiss(bool animated, Completion completion);
 
-  ViewController* presentedViewController() const override;
-  ViewController* presentingViewController() const override;
-
-  // Nodes are held by shared pointers.
-  std::shared_ptr<ViewController> retained() override;
+  ViewController* presented() const { return presented_.get(); }
+  ViewController* presenting() const { return presenter_ ? presenter_->controller_ : nullptr; }
 
  protected:
-  // The C++ side of this node.
-  virtual ViewController& controller() = 0;
-
   virtual void show(bool animated) = 0;
   virtual void hide(bool animated) = 0;
 
   // Runs `transitionDone` when the transition that was just started has ended. Never empty.
   virtual void afterTransition(Completion transitionDone) = 0;
 
-  // The node that this one is shown over, or null.
-  PresentationNode* presenter() const { return presenter_; }
+  // The native that this one is shown over, or null.
+  NativeController* presenter() const { return presenter_; }
 
  private:
-  using Controllers = std::vector<std::shared_ptr<ViewController>>;
+  // From the top down, and those that present nothing any more.
+  struct Removed {
+    std::vector<std::shared_ptr<ViewController>> screens;
+    std::vector<std::shared_ptr<ViewController>> presenters;
+  };
 
-  static PresentationNode& nodeOf(const ViewController& controller);
-  Controllers takeAway(const PresentationNode& presented);
-  void takeAllAbove(Controllers& taken);  // from the bottom up
+  void removeAllPresented(Removed& removed);
+  void removePresented(NativeController& native, Removed& removed);
 
-  PresentationNode* presenter_ = nullptr;
-  Controllers presented_;  // the last one on top
+  ViewController* controller_;
+  Presentations& presentations_;
+  NativeController* presenter_ = nullptr;
+  std::shared_ptr<ViewController> presented_;  // the last one, in the one load of a look-up
+  std::shared_ptr<ViewController> before_;     // what the presenter presented before this one
+};
+
+// A controller of that interface over a native of that class, as one object.
+template <class Interface, class Native>
+class NativeOf : public Interface, public Native {
+ public:
+  // The arguments are those of `Native` after its controller.
+  template <class... Arguments>
+  explicit NativeOf(Arguments&&... arguments)
+      : Native(static_cast<ViewController&>(*this), std::forward<Arguments>(arguments)...) {}
+  template <class... Arguments>
+  explicit NativeOf(ViewControllerKind kind, Arguments&&... arguments)
+      : Interface(kind),
+        Native(static_cast<ViewController&>(*this), std::forward<Arguments>(arguments)...) {}
+
+  void presentViewController(std::shared_ptr<ViewController> controller, bool animated,
+                             Completion completion) override {
+    this->present(std::move(controller), animated, std::move(completion));
+  }
+  void dismissViewController(bool animated, Completion completion) override {
+    this->dismiss(animated, std::move(completion));
+  }
+  void setModalInPresentation(bool modal) override { Native::setModalInPresentation(modal); }
+  void setOverrideUserInterfaceStyle(UserInterfaceStyle style) override {
+    Native::setOverrideUserInterfaceStyle(style);
+  }
+  ViewController* presentedViewController() const override { return this->presented(); }
+  ViewController* presentingViewController() const override { return this->presenting(); }
+  ViewController* childViewController() const override { return Native::childViewController(); }
+  std::shared_ptr<ViewController> retained() override {
+    return this->controller().shared_from_this();
+  }
 };
 
 }  // namespace qv_commons

@@ -1,4 +1,4 @@
-// The app's persisted settings.
+// The app's persisted settings. Main thread only.
 #pragma once
 
 #include <string_view>
@@ -9,14 +9,14 @@ class UserDefaults {
  public:
   virtual ~UserDefaults() = default;
 
-  // False where the key was never written. Main thread.
+  // False if the key was never written.
   virtual bool boolForKey(std::string_view key) const = 0;
 
-  // Visible to `boolForKey` at once, on the disk with the next `commit`.
+  // Visible to `boolForKey` at once.
   virtual void setBool(bool value, std::string_view key) = 0;
 
-  // Persists everything set since the last call, all of it or none. A platform that persists on its
-  // own does nothing here.
+  // Persists everything set since the last call, all of it or none. A platform that persists by
+  // itself does nothing here.
   virtual void commit() = 0;
 };
 

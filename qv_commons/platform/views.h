@@ -9,21 +9,11 @@
 #include <string>
 #include <string_view>
 
+#include "qv_commons/platform/color.h"
+#include "qv_commons/platform/instant.h"
+#include "qv_commons/platform/text_range.h"
+
 namespace qv_commons {
-
-// Red, green, blue and alpha, each from 0.0 to 1.0; or a colour of the platform's own.
-struct Color {
-  double red = 0;
-  double green = 0;
-  double blue = 0;
-  double alpha = 1;
-
-  // A colour object that a host handed in through its adapter, which hands it on as it is: it may
-  // be one that changes with the look of the screen. The four components don't count then.
-  std::shared_ptr<const void> native = nullptr;
-
-  friend bool operator==(const Color&, const Color&) = default;
-};
 
 class View {
  public:
@@ -36,7 +26,7 @@ class View {
 
 class Label : public View {
  public:
-  virtual std::optional<std::string> text() const = 0;  // nothing where none was ever set
+  virtual std::optional<std::string> text() const = 0;  // std::nullopt if none was ever set
   virtual void setText(const std::string& text) = 0;
   virtual void setTextColor(const Color& color) = 0;
 };
@@ -50,20 +40,11 @@ class Button : public View {
   virtual void setTitleColor(const Color& color, ControlState state) = 0;
 };
 
-// Dates are seconds since 1970-01-01 00:00:00 UTC.
 class DatePicker : public View {
  public:
-  virtual void setMaximumDate(std::optional<double> date) = 0;  // nothing: no maximum
-  virtual void setDate(double date) = 0;
-  virtual double date() const = 0;
-};
-
-// A range of a text, in UTF-16 code units.
-struct TextRange {
-  std::size_t location = 0;
-  std::size_t length = 0;
-
-  friend bool operator==(const TextRange&, const TextRange&) = default;
+  virtual void setMaximumDate(std::optional<Instant> date) = 0;  // std::nullopt: no maximum
+  virtual void setDate(Instant date) = 0;
+  virtual Instant date() const = 0;
 };
 
 // A mutable copy of a text with its attributes, in the adapter's own form.
@@ -73,8 +54,8 @@ class AttributedString {
 
   virtual std::size_t length() const = 0;  // in UTF-16 code units
 
-  // Marks `range`, which lies within the text, as a link with that value; the value is kept as the
-  // text it is, whether or not it is a URL.
+  // Marks `range`, which lies within the text, as a link with that value; the value is kept as it
+  // is, whether or not it is a URL.
   virtual void addLink(std::string_view value, TextRange range) = 0;
 };
 
@@ -84,23 +65,23 @@ class TextViewDelegate {
  public:
   virtual ~TextViewDelegate() = default;
 
-  // The user chose the link `url` at `range`. The answer: whether the system takes its own action.
+  // The user tapped the link `url` at `range`. True: the system opens it.
   virtual bool shouldInteractWithURL(TextView& textView, std::string_view url, TextRange range) = 0;
 };
 
 class TextView : public View {
  public:
-  // A copy of the text that is shown; null where the view has none.
+  // A copy of the text that is shown; null if the view has none.
   virtual std::unique_ptr<AttributedString> attributedText() const = 0;
   virtual void setAttributedText(const AttributedString& text) = 0;
 
   // Links are shown in `foreground` and with nothing else of their own.
   virtual void setLinkTextAttributes(const Color& foreground) = 0;
 
-  // The colour of all text that is no link.
+  // The colour of all text that is not a link.
   virtual void setTextColor(const Color& color) = 0;
 
-  // Who decides on chosen links; not owned, and must outlive the view. Without a delegate the
+  // Who decides about tapped links; not owned, and must outlive the view. Without a delegate the
   // system opens them.
   virtual void setDelegate(TextViewDelegate* delegate) = 0;
 };

@@ -4,6 +4,7 @@
 #include <string_view>
 #include <utility>
 
+#include "qv_commons/platform/application.h"
 #include "qv_commons/platform/platform.h"
 #include "qv_commons/support/url.h"
 

@@ -3,14 +3,17 @@
 #include <utility>
 
 #include "qv_commons/app_info/app_info.h"
+#include "qv_commons/platform/console.h"
+#include "qv_commons/platform/device.h"
 #include "qv_commons/platform/platform.h"
+#include "qv_commons/platform/view_controllers.h"
 #include "qv_commons/support/support_mail.h"
 
 namespace qv_commons {
 namespace {
 
-void presentCannotSendAlert(Alerts& alerts, ViewController& viewController) {
-  std::shared_ptr<AlertController> alert = alerts.makeAlertController(
+void presentCannotSendAlert(ViewControllers& viewControllers, ViewController& viewController) {
+  std::shared_ptr<AlertController> alert = viewControllers.makeAlertController(
       "Error", "Please configure your email account in the Settings.", AlertStyle::alert);
   alert->addAction("OK", AlertActionStyle::standard, nullptr);
   viewController.presentViewController(std::move(alert), true, nullptr);
@@ -23,8 +26,8 @@ std::string composeBody(const Platform& platform, const std::vector<std::string>
   const std::string appId = appIdOf(bundle);
   const std::string localizedModel = platform.device.localizedModel();
   const std::string systemVersion = platform.device.systemVersion();
-  const Size screenSize = platform.screen.bounds();
-  const std::vector<std::string> languages = platform.languages.preferredLanguages();
+  const Size screenSize = platform.device.screenBounds();
+  const std::vector<std::string> languages = platform.device.preferredLanguages();
   const std::string appVersion = appVersionOf(bundle);
   return supportMailBody(
       {.openingMessage = openingMessage,
@@ -41,7 +44,7 @@ std::string composeBody(const Platform& platform, const std::vector<std::string>
 void attachReceipt(const Platform& platform, MailComposer& composer) {
   const std::optional<FileLocation> location = platform.bundles.mainBundle().appStoreReceiptURL();
   if (!location) return;
-  const FileContents receipt = platform.files.read(*location);
+  const FileContents receipt = platform.bundles.read(*location);
   if (!receipt.bytes) {
     platform.console.print("error converting receipt to Data: " + receipt.errorDescription);
     return;
@@ -68,12 +71,12 @@ void QV_SupportHelper::contactSupport(ViewController& viewController, const std:
                                       std::optional<std::string_view> additionalMetadata,
                                       std::weak_ptr<QV_SupportHelperDelegate> delegate) {
   const Platform& platform = currentPlatform();
-  if (!platform.mailComposers.canSendMail()) {
-    presentCannotSendAlert(platform.alerts, viewController);
+  if (!platform.viewControllers.canSendMail()) {
+    presentCannotSendAlert(platform.viewControllers, viewController);
     return;
   }
   delegate_ = std::move(delegate);
-  std::shared_ptr<MailComposer> composer = platform.mailComposers.makeMailComposer();
+  std::shared_ptr<MailComposer> composer = platform.viewControllers.makeMailComposer();
   composer->setToRecipients({email});
   composer->setSubject(subject);
   composer->setMailComposeDelegate(weak_from_this());

@@ -12,8 +12,8 @@
 #include <string>
 #include <string_view>
 
+#include "qv_commons/platform/device.h"
 #include "qv_commons/platform/mail_composer.h"
-#include "qv_commons/platform/screen.h"
 
 namespace qv_commons {
 

@@ -2,6 +2,7 @@
 
 #include <limits>
 
+#include "qv_commons/platform/clock.h"
 #include "qv_commons/platform/platform.h"
 
 namespace qv_commons {
@@ -16,18 +17,18 @@ Integer truncated(double value) {
   return static_cast<Integer>(value);
 }
 
-double secondsSince1970() {
-  return currentPlatform().clock.timeIntervalSince1970();
+double secondsNow() {
+  return secondsSince1970(currentPlatform().clock.now());
 }
 
 }  // namespace
 
 std::int64_t QV_TimeHelper::currentTimeInMilliseconds() {
-  return truncated<std::int64_t>(secondsSince1970() * 1000.0);
+  return truncated<std::int64_t>(secondsNow() * 1000.0);
 }
 
 PlatformInteger QV_TimeHelper::currentTimeInSeconds() {
-  return truncated<PlatformInteger>(secondsSince1970());
+  return truncated<PlatformInteger>(secondsNow());
 }
 
 std::int64_t QV_TimeHelper::secondsToMinutes(std::int64_t seconds, bool roundUp) {

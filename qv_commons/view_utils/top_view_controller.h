@@ -1,20 +1,20 @@
-// The walk to the top-most view controller, over controllers of any type.
+// The search for the top-most view controller, over controllers of any type.
 //
 //     std::shared_ptr<qv_commons::ViewController> home = platform.makeViewController("home");
 //     qv_commons::ViewController* top =
-//         qv_commons::topViewControllerFrom(home.get(), qv_commons::ViewControllerLinks());
+//         qv_commons::topViewControllerFrom(home.get(), qv_commons::ViewControllerRelations());
 //
-// `QV_ViewControllerHelper` is this walk over the library's own controllers. An adapter whose hosts
-// have native controllers walks those with links of its own.
+// `QV_ViewControllerHelper` searches the library's own controllers with it. An adapter whose hosts
+// have controllers of the platform's searches those, with relations of its own.
 #pragma once
 
 #include "qv_commons/platform/view_controller.h"
 
 namespace qv_commons {
 
-// How the walk asks a controller. A `Links` type for another type of controller has the same four
-// operations; `Controller` is anything that converts to bool, false for "absent".
-struct ViewControllerLinks {
+// How a controller is asked. A type for other controllers has the same four operations;
+// `Controller` is anything that converts to bool, false if there is none.
+struct ViewControllerRelations {
   using Controller = ViewController*;
 
   static ViewControllerKind kind(Controller controller) { return controller->kind(); }
@@ -28,20 +28,22 @@ struct ViewControllerLinks {
 };
 
 // See `QV_ViewControllerHelper::topViewController`. A loop, so any depth takes the same stack; each
-// controller is asked for its kind once, and for no link that the answer does not need.
-template <class Links>
-typename Links::Controller topViewControllerFrom(typename Links::Controller controller,
-                                                 const Links& links) {
+// controller is asked for its kind once, and for nothing that the answer does not need.
+template <class Relations>
+typename Relations::Controller topViewControllerFrom(typename Relations::Controller controller,
+                                                     const Relations& relations) {
   while (controller) {
-    const ViewControllerKind kind = links.kind(controller);
+    const ViewControllerKind kind = relations.kind(controller);
     if (kind == ViewControllerKind::navigation) {
-      controller = links.child(controller);
+      controller = relations.child(controller);
       continue;
     }
-    typename Links::Controller next{};
-    if (kind == ViewControllerKind::tabBar) next = links.child(controller);
-    if (!next) next = links.presented(controller);
-    if (!next) return kind == ViewControllerKind::alert ? links.presenting(controller) : controller;
+    typename Relations::Controller next{};
+    if (kind == ViewControllerKind::tabBar) next = relations.child(controller);
+    if (!next) next = relations.presented(controller);
+    if (!next) {
+      return kind == ViewControllerKind::alert ? relations.presenting(controller) : controller;
+    }
     controller = next;
   }
   return controller;

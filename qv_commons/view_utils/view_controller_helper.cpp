@@ -5,7 +5,7 @@
 namespace qv_commons {
 
 ViewController* QV_ViewControllerHelper::topViewController(ViewController* controller) {
-  return topViewControllerFrom(controller, ViewControllerLinks());
+  return topViewControllerFrom(controller, ViewControllerRelations());
 }
 
 }  // namespace qv_commons

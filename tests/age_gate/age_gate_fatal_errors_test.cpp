@@ -85,9 +85,9 @@ TEST_F(LayoutsThatDoNotFit, AnActionWithoutItsOutletStopsWhenItRuns) {
 
 TEST_F(LayoutsThatDoNotFit, AnAgeThatTheCalendarCannotTellStopsTheConfirm) {
   start();
-  screen()->pick("datePicker", std::numeric_limits<double>::quiet_NaN());
+  screen()->pick("datePicker", instantAt(std::numeric_limits<double>::quiet_NaN()));
   EXPECT_DEATH(screen()->tap("confirmBtn"), "ageInYears: the calendar gives no years");
-  screen()->pick("datePicker", -1e300);
+  screen()->pick("datePicker", instantAt(-1e300));
   EXPECT_DEATH(screen()->tap("confirmBtn"), "ageInYears: the calendar gives no years");
 }
 

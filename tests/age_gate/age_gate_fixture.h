@@ -15,9 +15,10 @@
 
 namespace qv_commons::test {
 
-inline constexpr double kNow = 1700000000;               // 2023-11-14 22:13:20 UTC
-inline constexpr double kEighteenYearsAgo = 1132006400;  // 2005-11-14 22:13:20 UTC
-inline constexpr double kDay = 86400;
+inline constexpr Instant kNow = instantAt(1700000000);               // 2023-11-14 22:13:20 UTC
+inline constexpr Instant kEighteenYearsAgo = instantAt(1132006400);  // 2005-11-14 22:13:20 UTC
+inline constexpr Instant::duration kSecond(1);
+inline constexpr Instant::duration kDay(86400);
 
 inline const Color kBackground = {1, 0, 0};
 inline const Color kButtonBackground = {0, 1, 0};
@@ -39,7 +40,7 @@ class AgeGateFixture : public testing::Test {
     platform.userDefaults().values["QV_AgeGate_Blocked"] = blocked;
   }
 
-  std::shared_ptr<memory::MemoryScreen> screen() { return platform.layoutLoader().lastScreen(); }
+  memory::MemoryScreen* screen() { return platform.viewControllers().lastScreen(); }
 
   const std::vector<std::string>& lines() { return platform.record().lines(); }
   void forgetLines() { platform.record().clear(); }

@@ -11,7 +11,7 @@ using testing::ElementsAre;
 class AgeGateLifetime : public test::AgeGateFixture {
  protected:
   // What the user does, without keeping the screen alive meanwhile.
-  void confirm(double birth) {
+  void confirm(Instant birth) {
     memory::MemoryScreen& shown = *screen();
     shown.pick("datePicker", birth);
     shown.tap("confirmBtn");
@@ -27,18 +27,18 @@ TEST_F(AgeGateLifetime, TheScreenOutlivesItsOwnDismissal) {
 
 TEST_F(AgeGateLifetime, TheRefusedScreenReplacesItAndItIsGone) {
   start();
-  const std::weak_ptr<memory::MemoryScreen> gate = screen();
+  const std::weak_ptr<ViewController> gate = screen()->retained();
   confirm(kNow);
   EXPECT_TRUE(gate.expired());
   EXPECT_EQ(home->presentedViewController(), &screen()->controller());
 }
 
 TEST_F(AgeGateLifetime, TheCompletionRunsWhileTheScreenLives) {
-  std::weak_ptr<memory::MemoryScreen> gate;
+  std::weak_ptr<ViewController> gate;
   bool lived = false;
   QV_AgeGateHelper::startAgeGateProcess(
       home, 18, [&] { lived = !gate.expired(); }, nullptr, theme, "", "");
-  gate = screen();
+  gate = screen()->retained();
   confirm(kEighteenYearsAgo);
   EXPECT_TRUE(lived);
   EXPECT_TRUE(gate.expired());
@@ -161,7 +161,7 @@ TEST(AgeGateLifetimeWithoutAHost, APlatformTakesItsScreensDown) {
     host = home;
     QV_AgeGateHelper::startAgeGateProcess(home, 18, nullptr, nullptr,
                                           QV_AgeGateColorTheme::defaultTheme(), "", "");
-    EXPECT_EQ(home.use_count(), 2);
+    EXPECT_EQ(home.use_count(), 3);  // here, in the gate, and for as long as it presents it
   }
   EXPECT_TRUE(host.expired());
 }

@@ -24,7 +24,7 @@ class AgeGateScreen : public test::AgeGateFixture {
     forgetLines();
   }
 
-  std::shared_ptr<memory::MemoryScreen> gate;
+  memory::MemoryScreen* gate = nullptr;
 };
 
 TEST_F(AgeGateScreen, HasItsDefaultsWhereOnlyItsLayoutMadeIt) {
@@ -86,20 +86,20 @@ TEST_F(AgeGateScreen, SetsNoTextFromCode) {
 TEST_F(AgeGateScreen, ReadsTheThemeWhenItLoadsAndNeverAgain) {
   startAndForgetLines();
   theme->textColor = {0, 0, 0};
-  gate->pick("datePicker", 0);
+  gate->pick("datePicker", {});
   EXPECT_THAT(lines(), ElementsAre("screen1.confirmBtn.setEnabled true"));
   EXPECT_EQ(gate->view<MemoryLabel>("header").textColor(), test::kText);
 }
 
 TEST_F(AgeGateScreen, SetsThePickerToNowAndItsMaximumToAYearFromNow) {
-  platform.clock().now = 1709164800.25;  // 2024-02-29 00:00:00.25
+  platform.clock().time = instantAt(1709164800.25);  // 2024-02-29 00:00:00.25
   start();
   auto& picker = screen()->view<MemoryDatePicker>("datePicker");
-  EXPECT_EQ(picker.date(), 1709164800.25);
-  EXPECT_EQ(picker.maximumDate(), 1740700800.25);  // 2025-02-28 00:00:00.25
+  EXPECT_EQ(picker.date(), instantAt(1709164800.25));
+  EXPECT_EQ(picker.maximumDate(), instantAt(1740700800.25));  // 2025-02-28 00:00:00.25
 }
 
-TEST_F(AgeGateScreen, ClearsTheMaximumWhereTheCalendarGivesNone) {
+TEST_F(AgeGateScreen, ClearsTheMaximumIfTheCalendarGivesNone) {
   platform.calendar().available = false;
   start();
   EXPECT_THAT(lines(), Contains("screen1.datePicker.setMaximumDate none"));
@@ -122,7 +122,7 @@ TEST_F(AgeGateScreen, CannotBeConfirmedBeforeADateWasPicked) {
 
 TEST_F(AgeGateScreen, CanBeConfirmedFromTheFirstPickOn) {
   startAndForgetLines();
-  EXPECT_TRUE(gate->pick("datePicker", 0));
+  EXPECT_TRUE(gate->pick("datePicker", {}));
   EXPECT_TRUE(gate->view<MemoryButton>("confirmBtn").isEnabled());
   EXPECT_TRUE(gate->pick("datePicker", kNow + kDay));
   EXPECT_THAT(lines(), ElementsAre("screen1.confirmBtn.setEnabled true",

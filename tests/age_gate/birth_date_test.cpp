@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <limits>
+#include <type_traits>
 
 #include "qv_commons/platform/memory/memory_calendar.h"
 
@@ -14,12 +15,14 @@ using testing::ElementsAre;
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
 
-class BirthDate : public testing::Test {
+class BirthDates : public testing::Test {
  protected:
-  std::int64_t age(double birth, double now) const { return ageInYears(birth, now, calendar); }
+  std::int64_t age(double birth, double now) const {
+    return ageInYears({instantAt(birth)}, instantAt(now), calendar);
+  }
 
   AgeGateVerdict judge(double birth, double now, std::int64_t minimum) const {
-    return judgeBirthDate(birth, now, calendar, minimum);
+    return judgeBirthDate({instantAt(birth)}, instantAt(now), calendar, minimum);
   }
 
   memory::Record record;
@@ -27,7 +30,7 @@ class BirthDate : public testing::Test {
 };
 
 // Born 2005-11-14 22:13:20.
-TEST_F(BirthDate, CompletesAYearOnTheBirthdayToTheSecond) {
+TEST_F(BirthDates, CompletesAYearOnTheBirthdayToTheSecond) {
   EXPECT_EQ(age(1132006400, 1699999999), 17);    // 2023-11-14 22:13:19
   EXPECT_EQ(age(1132006400, 1699999999.5), 17);  // half a second early
   EXPECT_EQ(age(1132006400, 1700000000), 18);    // 2023-11-14 22:13:20
@@ -36,7 +39,7 @@ TEST_F(BirthDate, CompletesAYearOnTheBirthdayToTheSecond) {
   EXPECT_EQ(age(1132006400, 1731622400), 19);
 }
 
-TEST_F(BirthDate, CountsMonthsAndDaysNotLengths) {
+TEST_F(BirthDates, CountsMonthsAndDaysNotLengths) {
   EXPECT_EQ(age(978307200, 1009756800), 0);   // 2001-01-01 to 2001-12-31
   EXPECT_EQ(age(978307200, 1009843200), 1);   // to 2002-01-01
   EXPECT_EQ(age(983404800, 1709164800), 22);  // 2001-03-01 to 2024-02-29
@@ -44,7 +47,7 @@ TEST_F(BirthDate, CountsMonthsAndDaysNotLengths) {
 }
 
 // Born 2000-02-29 00:00:00.
-TEST_F(BirthDate, CompletesALeapDaysYearOnThe28thInCommonYears) {
+TEST_F(BirthDates, CompletesALeapDaysYearOnThe28thInCommonYears) {
   EXPECT_EQ(age(951782400, 983318399), 0);     // 2001-02-27 23:59:59
   EXPECT_EQ(age(951782400, 983318400), 1);     // 2001-02-28 00:00:00
   EXPECT_EQ(age(951782400, 1709078400), 23);   // 2024-02-28
@@ -54,7 +57,7 @@ TEST_F(BirthDate, CompletesALeapDaysYearOnThe28thInCommonYears) {
   EXPECT_EQ(age(951782400, 4107456000), 100);  // 2100-02-28
 }
 
-TEST_F(BirthDate, KnowsDatesBefore1970) {
+TEST_F(BirthDates, KnowsDatesBefore1970) {
   EXPECT_EQ(age(-2208988800, 1700000000), 123);  // 1900-01-01
   EXPECT_EQ(age(-1, 0), 0);                      // 1969-12-31 23:59:59 to 1970-01-01
   EXPECT_EQ(age(-1, 31535999), 1);               // to 1970-12-31 23:59:59
@@ -62,7 +65,7 @@ TEST_F(BirthDate, KnowsDatesBefore1970) {
   EXPECT_EQ(age(-2203977600, -2172441600), 1);  // 1900-02-28 to 1901-02-28
 }
 
-TEST_F(BirthDate, GivesFutureBirthsZeroForAYearAndThenLess) {
+TEST_F(BirthDates, GivesFutureDatesZeroForAYearAndThenLess) {
   EXPECT_EQ(age(1700000000, 1700000000), 0);
   EXPECT_EQ(age(1700000001, 1700000000), 0);
   EXPECT_EQ(age(1731622399, 1700000000), 0);   // 2024-11-14 22:13:19
@@ -71,18 +74,18 @@ TEST_F(BirthDate, GivesFutureBirthsZeroForAYearAndThenLess) {
   EXPECT_EQ(age(1763158400, 1700000000), -2);  // 2025-11-14 22:13:20
 }
 
-TEST_F(BirthDate, KnowsBirthsAThousandYearsApart) {
+TEST_F(BirthDates, CountsAThousandYears) {
   EXPECT_EQ(age(-30610224000, 951782400), 1000);  // 1000-01-01 to 2000-02-29
   EXPECT_EQ(age(951782400, -30610224000), -1000);
 }
 
-TEST_F(BirthDate, AllowsExactlyTheMinimumAge) {
+TEST_F(BirthDates, AllowsExactlyTheMinimumAge) {
   EXPECT_EQ(judge(1132006400, 1700000000, 18), AgeGateVerdict::allowed);
   EXPECT_EQ(judge(1132006400, 1699999999, 18), AgeGateVerdict::refused);
   EXPECT_EQ(judge(1132006400 + 86400, 1700000000, 18), AgeGateVerdict::refused);  // a day short
 }
 
-TEST_F(BirthDate, RefusesFutureBirthsForAnyPositiveMinimum) {
+TEST_F(BirthDates, RefusesFutureDatesForAnyPositiveMinimum) {
   EXPECT_EQ(judge(1700000001, 1700000000, 1), AgeGateVerdict::refused);
   EXPECT_EQ(judge(1700000001, 1700000000, 0), AgeGateVerdict::allowed);
   EXPECT_EQ(judge(1700000001, 1700000000, -5), AgeGateVerdict::allowed);
@@ -90,19 +93,19 @@ TEST_F(BirthDate, RefusesFutureBirthsForAnyPositiveMinimum) {
   EXPECT_EQ(judge(1731622400, 1700000000, -1), AgeGateVerdict::allowed);
 }
 
-TEST_F(BirthDate, ComparesTheWholeRangeOfMinimums) {
+TEST_F(BirthDates, ComparesTheWholeRangeOfMinimums) {
   EXPECT_EQ(judge(0, 1700000000, std::numeric_limits<std::int64_t>::max()),
             AgeGateVerdict::refused);
   EXPECT_EQ(judge(0, 1700000000, std::numeric_limits<std::int64_t>::min()),
             AgeGateVerdict::allowed);
 }
 
-TEST_F(BirthDate, AsksTheCalendarOnce) {
-  ageInYears(0, 31536000, calendar);
+TEST_F(BirthDates, AsksTheCalendarOnce) {
+  age(0, 31536000);
   EXPECT_THAT(record.lines(), ElementsAre("calendar.yearsBetween 0.0 31536000.0"));
 }
 
-TEST_F(BirthDate, StopsWhereTheCalendarCannotTell) {
+TEST_F(BirthDates, StopsIfTheCalendarCannotTell) {
   const char* message = "ageInYears: the calendar gives no years between birth and now";
   EXPECT_DEATH(age(kNotANumber, 0), message);
   EXPECT_DEATH(age(0, kNotANumber), message);
@@ -111,6 +114,11 @@ TEST_F(BirthDate, StopsWhereTheCalendarCannotTell) {
   calendar.available = false;
   EXPECT_DEATH(judge(0, 1, 16), message);
 }
+
+// The two instants are of different types, so that they can't be passed in each other's place.
+static_assert(!std::is_convertible_v<Instant, BirthDate>);
+static_assert(!std::is_convertible_v<BirthDate, Instant>);
+static_assert(!std::is_convertible_v<double, Instant>);
 
 }  // namespace
 }  // namespace qv_commons

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <string>
 
+#include "qv_commons/age_gate/age_gate_color_theme.h"
 #include "qv_commons/platform/memory/memory_text_view.h"
 
 namespace qv_commons {

@@ -19,7 +19,7 @@ class BundleFiles : public testing::Test {
   // A file of the main bundle.
   void add(const std::string& name, FileContents contents) {
     platform.mainBundle().resources[name] = "/app/" + name;
-    platform.files().files["/app/" + name] = std::move(contents);
+    platform.bundles().files["/app/" + name] = std::move(contents);
   }
 
   static std::optional<std::string> load(std::string_view filename) {
@@ -65,8 +65,8 @@ TEST_F(BundleFiles, DoNotLookForTheResourceBundleInTheApp) {
 TEST_F(BundleFiles, GiveTheExactTextOfAJsonFile) {
   add("config.json", {" {\r\n\t\"a\" : 1 }\n\n", ""});
   EXPECT_EQ(load("config"), " {\r\n\t\"a\" : 1 }\n\n");
-  EXPECT_THAT(platform.record().lines(),
-              ElementsAre("mainBundle.URLForResource config.json", "files.read /app/config.json"));
+  EXPECT_THAT(platform.record().lines(), ElementsAre("mainBundle.URLForResource config.json",
+                                                     "bundles.read /app/config.json"));
 }
 
 TEST_F(BundleFiles, GiveTextThatIsNoJson) {
@@ -90,7 +90,7 @@ TEST_F(BundleFiles, DoNotFindJsonThatOnlyTheLibraryHas) {
   for (memory::MemoryBundle* bundle : {&platform.resourceBundle(), &platform.bundles().library()}) {
     bundle->resources["config.json"] = "/library/config.json";
   }
-  platform.files().files["/library/config.json"] = {"{}", ""};
+  platform.bundles().files["/library/config.json"] = {"{}", ""};
   EXPECT_EQ(load("config"), std::nullopt);
   EXPECT_THAT(platform.console().lines, IsEmpty());
 }

@@ -16,7 +16,10 @@
 #include <string>
 #include <vector>
 
+#include "qv_commons/platform/bundle.h"
+#include "qv_commons/platform/device.h"
 #include "qv_commons/platform/platform.h"
+#include "qv_commons/platform/view_controllers.h"
 
 namespace qv_commons::conformance {
 
@@ -40,13 +43,16 @@ class Adapter {
  public:
   virtual ~Adapter() = default;
 
-  // How the surroundings are; to be set before the first call of `platform`.
+  // The environment; to be set before the first call of `platform`.
   virtual void useMainBundle(const MainBundle& bundle) = 0;
   virtual void useSystemVersion(const OperatingSystemVersion& version) = 0;
   virtual void useUserInterfaceStyle(UserInterfaceStyle style) = 0;
   virtual void useMail(bool available) = 0;
 
   virtual const Platform& platform() = 0;
+
+  // A file `name` with those bytes in the main bundle.
+  virtual void addToMainBundle(const std::string& name, const std::string& bytes) = 0;
 
   virtual FileLocation makeFile(const std::string& bytes) = 0;
   virtual FileLocation makeFolder() = 0;
@@ -55,6 +61,9 @@ class Adapter {
   // What reaches the console and the system while `act` runs.
   virtual std::vector<std::string> printedBy(const std::function<void()>& act) = 0;
   virtual std::vector<std::string> openedBy(const std::function<void()>& act) = 0;
+
+  // What the app would read after being killed now.
+  virtual bool nextStartReads(const char* key) = 0;
 
   // A screen of the host's, not yet presented, and one that is on the screen as the first of all.
   virtual std::shared_ptr<ViewController> makeScreen() = 0;
@@ -73,6 +82,13 @@ class Adapter {
   virtual void leave(ViewController& controller) = 0;
 
   virtual void tap(AlertController& alert, std::size_t button) = 0;
+
+  // The user on the library's screen on top: picks a day of birth, taps "Confirm" or the contact
+  // link. False if that can't be done.
+  virtual bool pick(Instant birth) = 0;
+  virtual bool tapConfirm() = 0;
+  virtual bool tapContactLink() = 0;
+
   virtual ShownMessage shown(MailComposer& composer) = 0;
 
   // The user sends, saves or cancels.

@@ -1,4 +1,4 @@
-// Conformance of Alerts and AlertController.
+// Conformance of AlertController.
 #pragma once
 
 #include "tests/conformance/adapter.h"
@@ -10,7 +10,7 @@ class AlertConformance : public Suite {
   void SetUp() override { root_ = adapter().makeRootScreen(); }
 
   std::shared_ptr<AlertController> makeAlert() {
-    return platform().alerts.makeAlertController("Error", "It broke.", AlertStyle::alert);
+    return platform().viewControllers.makeAlertController("Error", "It broke.", AlertStyle::alert);
   }
 
   void present(const std::shared_ptr<AlertController>& alert) {
@@ -33,7 +33,7 @@ TEST_P(AlertConformance, IsNotOnTheScreenUntilItIsPresented) {
   EXPECT_TRUE(adapter().isOnScreen(*alert));
 }
 
-TEST_P(AlertConformance, ATapTakesItAwayAndThenRunsTheHandler) {
+TEST_P(AlertConformance, ATapDismissesItAndThenRunsTheHandler) {
   const std::shared_ptr<AlertController> alert = makeAlert();
   std::vector<bool> onScreen;
   alert->addAction("OK", AlertActionStyle::standard,
@@ -45,7 +45,7 @@ TEST_P(AlertConformance, ATapTakesItAwayAndThenRunsTheHandler) {
   EXPECT_EQ(root_->presentedViewController(), nullptr);
 }
 
-TEST_P(AlertConformance, ATapOnAButtonWithoutHandlerOnlyTakesItAway) {
+TEST_P(AlertConformance, ATapOnAButtonWithoutHandlerOnlyDismissesIt) {
   const std::shared_ptr<AlertController> alert = makeAlert();
   alert->addAction("OK", AlertActionStyle::standard, nullptr);
   present(alert);

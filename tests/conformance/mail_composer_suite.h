@@ -1,4 +1,4 @@
-// Conformance of MailComposers and MailComposer.
+// Conformance of MailComposer.
 #pragma once
 
 #include "tests/conformance/adapter.h"
@@ -7,7 +7,7 @@ namespace qv_commons::conformance {
 
 class MailComposerConformance : public Suite {
  protected:
-  // Notes how the user left, and takes the composer away.
+  // Records how the user left, and dismisses the composer.
   class Delegate final : public MailComposeDelegate {
    public:
     explicit Delegate(Adapter& adapter) : adapter_(adapter) {}
@@ -34,7 +34,7 @@ class MailComposerConformance : public Suite {
   }
 
   std::shared_ptr<MailComposer> present() {
-    std::shared_ptr<MailComposer> composer = platform().mailComposers.makeMailComposer();
+    std::shared_ptr<MailComposer> composer = platform().viewControllers.makeMailComposer();
     composer->setToRecipients({"support@example.com"});
     composer->setSubject("Grüße");
     composer->setMailComposeDelegate(delegate_);
@@ -60,7 +60,7 @@ class MailComposerConformance : public Suite {
 };
 
 TEST_P(MailComposerConformance, CanSendMail) {
-  EXPECT_TRUE(platform().mailComposers.canSendMail());
+  EXPECT_TRUE(platform().viewControllers.canSendMail());
 }
 
 TEST_P(MailComposerConformance, ShowsWhatWasSet) {
@@ -95,7 +95,7 @@ class NoMailConformance : public Suite {};
 
 TEST_P(NoMailConformance, CannotSendMail) {
   adapter().useMail(false);
-  EXPECT_FALSE(platform().mailComposers.canSendMail());
+  EXPECT_FALSE(platform().viewControllers.canSendMail());
 }
 
 }  // namespace qv_commons::conformance

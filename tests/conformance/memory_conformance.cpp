@@ -13,19 +13,24 @@ class MemoryAdapter final : public Adapter {
     if (bundle.namesReceiptLocation) memory_.mainBundle().receiptLocation = "StoreKit/receipt";
   }
   void useSystemVersion(const OperatingSystemVersion& version) override {
-    memory_.device().versionNumber = version;
+    memory_.device().version = version;
   }
   void useUserInterfaceStyle(UserInterfaceStyle style) override { memory_.device().style = style; }
-  void useMail(bool available) override { memory_.mail().available = available; }
+  void useMail(bool available) override { memory_.viewControllers().mailAvailable = available; }
 
   const Platform& platform() override { return memory_.platform(); }
 
+  void addToMainBundle(const std::string& name, const std::string& bytes) override {
+    memory_.mainBundle().resources[name] = "/app/" + name;
+    memory_.bundles().files["/app/" + name] = {bytes, ""};
+  }
+
   FileLocation makeFile(const std::string& bytes) override {
-    memory_.files().files["file"] = {bytes, ""};
+    memory_.bundles().files["file"] = {bytes, ""};
     return "file";
   }
   FileLocation makeFolder() override {
-    memory_.files().files["folder"] = {std::nullopt, "Is a directory"};
+    memory_.bundles().files["folder"] = {std::nullopt, "Is a directory"};
     return "folder";
   }
   FileLocation missingFile() override { return "missing"; }
@@ -41,26 +46,36 @@ class MemoryAdapter final : public Adapter {
     return memory_.application().opened;
   }
 
+  bool nextStartReads(const char* key) override {
+    const auto& committed = memory_.userDefaults().committed;
+    const auto found = committed.find(key);
+    return found != committed.end() && found->second;
+  }
+
   std::shared_ptr<ViewController> makeScreen() override {
     return memory_.makeViewController("screen");
   }
   std::shared_ptr<ViewController> makeRootScreen() override {
-    root_ = memory_.makeViewController("root");
-    return root_;
+    auto root = memory_.makeViewController("root");
+    root_ = root.get();
+    return root;
   }
   bool isOnScreen(ViewController& controller) override {
-    return &controller == root_.get() || memory::MemoryNode::of(controller).isOnScreen();
+    return &controller == root_ || memory::MemoryController::of(controller).isOnScreen();
   }
 
   void settle() override { memory_.transitions().runAll(); }
   void leave(ViewController& controller) override {
-    memory::MemoryNode::of(controller).swipeAway();
+    memory::MemoryController::of(controller).swipeAway();
   }
   void tap(AlertController& alert, std::size_t button) override {
-    static_cast<memory::MemoryAlert&>(alert.native()).tap(button);
+    static_cast<memory::MemoryAlert&>(alert).tap(button);
   }
+  bool pick(Instant birth) override { return screen().pick("datePicker", birth); }
+  bool tapConfirm() override { return screen().tap("confirmBtn"); }
+  bool tapContactLink() override { return screen().tapLink("contact", 38); }
   ShownMessage shown(MailComposer& composer) override {
-    const auto& message = static_cast<memory::MemoryMailComposer&>(composer.native()).message();
+    const auto& message = static_cast<memory::MemoryMailComposer&>(composer).message();
     ShownMessage shown{message.toRecipients.front(), message.subject, message.body, {}};
     for (const MailAttachment& attachment : message.attachments) {
       shown.attachmentNames.push_back(attachment.fileName);
@@ -68,12 +83,14 @@ class MemoryAdapter final : public Adapter {
     return shown;
   }
   void finish(MailComposer& composer, MailComposeResult how) override {
-    static_cast<memory::MemoryMailComposer&>(composer.native()).finish(how);
+    static_cast<memory::MemoryMailComposer&>(composer).finish(how);
   }
 
  private:
+  memory::MemoryScreen& screen() { return *memory_.viewControllers().lastScreen(); }
+
   memory::MemoryPlatform memory_;
-  std::shared_ptr<ViewController> root_;
+  ViewController* root_ = nullptr;
 };
 
 std::unique_ptr<Adapter> makeMemoryAdapter() {

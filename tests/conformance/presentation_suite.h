@@ -58,7 +58,22 @@ TEST_P(PresentationConformance, KeepsAliveWhatIsShownAndLetsGoOfWhatIsNot) {
   EXPECT_FALSE(isThere());
 }
 
-TEST_P(PresentationConformance, TakesAwayWhatItPresentsAndThenRunsTheCompletion) {
+TEST_P(PresentationConformance, KeepsAliveWhatPresentsUntilNothingIsShownOverIt) {
+  Screen screen = presented(*root_);
+  const Screen above = presented(*screen);
+  const std::function<bool()> isThere = adapter().watch(screen);
+  screen.reset();
+  root_.reset();
+  adapter().settle();
+  EXPECT_TRUE(isThere());
+  EXPECT_TRUE(adapter().isOnScreen(*above));
+  ASSERT_NE(above->presentingViewController(), nullptr);
+  above->presentingViewController()->dismissViewController(true, nullptr);
+  adapter().settle();
+  EXPECT_FALSE(adapter().isOnScreen(*above));
+}
+
+TEST_P(PresentationConformance, DismissesWhatItPresentsAndThenRunsTheCompletion) {
   const Screen screen = presented(*root_);
   bool wasOnScreen = true;
   root_->dismissViewController(true, [&] {
@@ -73,7 +88,7 @@ TEST_P(PresentationConformance, TakesAwayWhatItPresentsAndThenRunsTheCompletion)
   EXPECT_TRUE(adapter().isOnScreen(*root_));
 }
 
-TEST_P(PresentationConformance, AScreenThatPresentsNothingTakesItselfAway) {
+TEST_P(PresentationConformance, AScreenThatPresentsNothingDismissesItself) {
   const Screen screen = presented(*root_);
   screen->dismissViewController(true, count());
   adapter().settle();
@@ -82,14 +97,14 @@ TEST_P(PresentationConformance, AScreenThatPresentsNothingTakesItselfAway) {
   EXPECT_EQ(root_->presentedViewController(), nullptr);
 }
 
-TEST_P(PresentationConformance, DropsTheCompletionWhereThereIsNothingToTakeAway) {
+TEST_P(PresentationConformance, DropsTheCompletionIfThereIsNothingToDismiss) {
   root_->dismissViewController(true, count());
   adapter().settle();
   EXPECT_EQ(completions_, 0);
   EXPECT_TRUE(adapter().isOnScreen(*root_));
 }
 
-TEST_P(PresentationConformance, TakesAwayAWholeStack) {
+TEST_P(PresentationConformance, DismissesAWholeStack) {
   const Screen first = presented(*root_);
   const Screen second = presented(*first);
   const Screen third = presented(*second);
@@ -104,7 +119,7 @@ TEST_P(PresentationConformance, TakesAwayAWholeStack) {
   }
 }
 
-TEST_P(PresentationConformance, AScreenInTheMiddleTakesAwayWhatIsAboveIt) {
+TEST_P(PresentationConformance, AScreenInTheMiddleDismissesWhatIsAboveIt) {
   const Screen first = presented(*root_);
   const Screen second = presented(*first);
   first->dismissViewController(true, nullptr);
@@ -134,7 +149,7 @@ TEST_P(PresentationConformance, LeavesTheScreenBelowWhenTheTopGoes) {
   EXPECT_FALSE(adapter().isOnScreen(*above));
 }
 
-TEST_P(PresentationConformance, ShowsAScreenAgainAfterItWasTakenAway) {
+TEST_P(PresentationConformance, ShowsAScreenAgainAfterItWasDismissed) {
   const Screen screen = presented(*root_);
   root_->dismissViewController(true, nullptr);
   adapter().settle();

@@ -24,8 +24,9 @@ class Form final : public LayoutScreen, public TextViewDelegate {
   std::vector<std::string> events;
   bool systemMayAct = true;
 
+  std::string_view headingOutlet() const override { return "text"; }
   std::vector<Outlet> outlets() override {
-    return {{"button", &button}, {"picker", &picker}, {"text", &text}};
+    return {{"button", button}, {"picker", picker}, {"text", text}};
   }
   std::vector<Action> actions() override {
     return {{"onButton:", [this] { events.emplace_back("button"); }},
@@ -56,9 +57,10 @@ class MemoryScreens : public testing::Test {
   }
 
   std::shared_ptr<Form> makeForm() {
-    return std::static_pointer_cast<Form>(platform.layoutLoader().initWithNibName(
-        "Form", nullptr,
-        [](NativeViewController& native) { return std::make_unique<Form>(native); }));
+    return std::static_pointer_cast<Form>(platform.viewControllers().initWithNibName(
+        "Form", nullptr, [](std::unique_ptr<ViewController> native) {
+          return std::make_shared<Form>(std::move(native));
+        }));
   }
 
   std::shared_ptr<Form> presentForm() {
@@ -74,7 +76,7 @@ class MemoryScreens : public testing::Test {
     form.text.lock()->setAttributedText(*text);
   }
 
-  MemoryScreen& screen() { return *platform.layoutLoader().lastScreen(); }
+  MemoryScreen& screen() { return *platform.viewControllers().lastScreen(); }
 
   MemoryPlatform platform;
   std::shared_ptr<ViewController> home = platform.makeViewController("home");
@@ -83,7 +85,7 @@ class MemoryScreens : public testing::Test {
 TEST_F(MemoryScreens, LookInTheMainBundleWhereThereIsNoOther) {
   const auto form = makeForm();
   EXPECT_THAT(platform.record().lines(),
-              ElementsAre("layoutLoader.initWithNibName screen1 Form mainBundle"));
+              ElementsAre("viewControllers.initWithNibName screen1 Form mainBundle"));
   screen().load();
   EXPECT_THAT(form->events, ElementsAre("loaded"));
 }
@@ -99,9 +101,9 @@ TEST_F(MemoryScreens, LoadOnce) {
 TEST_F(MemoryScreens, RunTheActionsOfTheirViews) {
   const auto form = presentForm();
   EXPECT_TRUE(screen().tap("button"));
-  EXPECT_TRUE(screen().pick("picker", 5));
+  EXPECT_TRUE(screen().pick("picker", instantAt(5)));
   EXPECT_THAT(form->events, ElementsAre("button", "picker"));
-  EXPECT_EQ(form->picker.lock()->date(), 5);
+  EXPECT_EQ(form->picker.lock()->date(), instantAt(5));
 }
 
 TEST_F(MemoryScreens, LetADisabledButtonAlone) {
@@ -120,7 +122,7 @@ TEST_F(MemoryScreens, CannotBeTouchedUnlessTheyAreOnTop) {
   form->presentViewController(platform.makeViewController("above"), true, nullptr);
   addLink(*form, "https://example.com");
   EXPECT_FALSE(screen().tap("button"));
-  EXPECT_FALSE(screen().pick("picker", 5));
+  EXPECT_FALSE(screen().pick("picker", instantAt(5)));
   EXPECT_FALSE(screen().tapLink("text", 9));
   EXPECT_THAT(form->events, IsEmpty());
 }
@@ -134,9 +136,9 @@ TEST_F(MemoryScreens, HaveViewsWithoutActions) {
 
 TEST_F(MemoryScreens, KeepTheirPickersBelowTheMaximum) {
   const auto form = presentForm();
-  form->picker.lock()->setMaximumDate(100);
-  EXPECT_TRUE(screen().pick("picker", 101));
-  EXPECT_EQ(form->picker.lock()->date(), 100);
+  form->picker.lock()->setMaximumDate(instantAt(100));
+  EXPECT_TRUE(screen().pick("picker", instantAt(101)));
+  EXPECT_EQ(form->picker.lock()->date(), instantAt(100));
 }
 
 TEST_F(MemoryScreens, OpenALinkThatNobodyDecidesOn) {
@@ -196,7 +198,7 @@ TEST_F(MemoryScreens, StopWhereAViewOrAnActionIsMissing) {
   const auto form = presentForm();
   EXPECT_DEATH(screen().tap("button"), "screen1 has no action onNothing:");
   EXPECT_DEATH(screen().tap("picker"), "screen1 has no such view: picker");
-  EXPECT_DEATH(screen().pick("nothing", 0), "screen1 has no such view: nothing");
+  EXPECT_DEATH(screen().pick("nothing", {}), "screen1 has no such view: nothing");
 }
 
 TEST_F(MemoryScreens, StopWhereTheLayoutIsMissing) {
@@ -205,7 +207,7 @@ TEST_F(MemoryScreens, StopWhereTheLayoutIsMissing) {
 }
 
 TEST_F(MemoryScreens, AreRecordedInTheOrderInWhichTheyWereMade) {
-  EXPECT_EQ(platform.layoutLoader().lastScreen(), nullptr);
+  EXPECT_EQ(platform.viewControllers().lastScreen(), nullptr);
   auto first = makeForm();
   EXPECT_EQ(screen().name(), "screen1");
   auto second = makeForm();

@@ -10,7 +10,7 @@
 namespace qv_commons {
 namespace {
 
-using memory::MemoryNode;
+using memory::MemoryController;
 using Lines = std::vector<std::string>;
 
 struct Host : QV_SupportHelperDelegate {
@@ -35,31 +35,31 @@ class SupportHelper : public testing::Test {
                            std::move(delegate));
   }
   memory::MemoryMailComposer& composer(std::size_t index) {
-    return *memory.mail().composers().at(index);
+    return *memory.viewControllers().composers().at(index);
   }
 };
 
 TEST_F(SupportHelper, DoesAllInOrder) {
   memory.mainBundle().receiptLocation = "receipt";
-  memory.files().files["receipt"] = {"receipt\n", ""};
+  memory.bundles().files["receipt"] = {"receipt\n", ""};
   contact(host);
   EXPECT_EQ(memory.record().lines(),
             (Lines{
-                "mail.canSendMail",
-                "mail.makeMailComposer composer1",
+                "viewControllers.canSendMail",
+                "viewControllers.makeMailComposer composer1",
                 "composer1.setToRecipients \"support@example.com\"",
                 "composer1.setSubject \"Help\"",
                 "composer1.setMailComposeDelegate",
                 "mainBundle.bundleIdentifier",
                 "device.localizedModel",
                 "device.systemVersion",
-                "screen.bounds",
-                "languages.preferredLanguages",
+                "device.screenBounds",
+                "device.preferredLanguages",
                 "mainBundle.objectForInfoDictionaryKey CFBundleShortVersionString",
                 "mainBundle.objectForInfoDictionaryKey CFBundleVersion",
                 "composer1.setMessageBody 130 bytes, plain text",
                 "mainBundle.appStoreReceiptURL",
-                "files.read receipt",
+                "bundles.read receipt",
                 "composer1.addAttachment \"Receipt-Data.txt\" Text/XML 12 bytes",
                 "home.presentViewController composer1 animated, no completion",
             }));
@@ -78,8 +78,8 @@ TEST_F(SupportHelper, FillsTheComposer) {
   memory.mainBundle().info["CFBundleShortVersionString"] = std::string("2.4.1");
   memory.mainBundle().info["CFBundleVersion"] = std::string("317");
   memory.mainBundle().receiptLocation = "receipt";
-  memory.files().files["receipt"] = {"receipt\n", ""};
-  memory.device().screenBounds = {375, 812};
+  memory.bundles().files["receipt"] = {"receipt\n", ""};
+  memory.device().screenSize = {375, 812};
   memory.device().languages = {"en-GB", "de-DE"};
   helper->contactSupport(*home, " Support <support@example.com> ", "Caf\xC3\xA9", {"pro", "ads"},
                          "Hello", "User: 42", host);
@@ -106,25 +106,25 @@ TEST_F(SupportHelper, LeavesEmptyWhatIsMissing) {
 }
 
 TEST_F(SupportHelper, ShowsAnAlertWhereNoMailCanBeSent) {
-  memory.mail().available = false;
+  memory.viewControllers().mailAvailable = false;
   contact(host);
   EXPECT_EQ(memory.record().lines(),
             (Lines{
-                "mail.canSendMail",
-                "alerts.makeAlertController alert1 \"Error\" "
+                "viewControllers.canSendMail",
+                "viewControllers.makeAlertController alert1 \"Error\" "
                 "\"Please configure your email account in the Settings.\" alert",
                 "alert1.addAction \"OK\" default, no handler",
                 "home.presentViewController alert1 animated, no completion",
             }));
-  memory.alerts().alerts().at(0)->tap(0);
-  EXPECT_FALSE(memory.alerts().alerts().at(0)->isOnScreen());
+  memory.viewControllers().alerts().at(0)->tap(0);
+  EXPECT_FALSE(memory.viewControllers().alerts().at(0)->isOnScreen());
   EXPECT_EQ(helper->delegate(), nullptr);
   EXPECT_EQ(host->told, 0);
 }
 
 TEST_F(SupportHelper, KeepsTheEarlierDelegateWhereNoMailCanBeSent) {
   contact(host);
-  memory.mail().available = false;
+  memory.viewControllers().mailAvailable = false;
   contact(std::make_shared<Host>());
   EXPECT_EQ(helper->delegate(), host);
 }
@@ -137,7 +137,7 @@ TEST_F(SupportHelper, AttachesNothingWhereThereIsNoReceiptLocation) {
 
 TEST_F(SupportHelper, SaysWhyAReceiptCannotBeReadAndGoesOn) {
   memory.mainBundle().receiptLocation = "receipt";
-  memory.files().files["receipt"] = {std::nullopt, "Is a directory"};
+  memory.bundles().files["receipt"] = {std::nullopt, "Is a directory"};
   contact(host);
   EXPECT_EQ(memory.console().lines, (Lines{"error converting receipt to Data: Is a directory"}));
   EXPECT_TRUE(composer(0).message().attachments.empty());
@@ -146,7 +146,7 @@ TEST_F(SupportHelper, SaysWhyAReceiptCannotBeReadAndGoesOn) {
 
 TEST_F(SupportHelper, AttachesAnEmptyReceiptAsAnEmptyFile) {
   memory.mainBundle().receiptLocation = "receipt";
-  memory.files().files["receipt"] = {"", ""};
+  memory.bundles().files["receipt"] = {"", ""};
   contact(host);
   ASSERT_EQ(composer(0).message().attachments.size(), 1u);
   EXPECT_EQ(composer(0).message().attachments[0].data, "");
@@ -157,7 +157,7 @@ TEST_F(SupportHelper, TellsTheDelegateOnceWhateverTheOutcome) {
                       MailComposeResult::sent, MailComposeResult::failed}) {
     const int before = host->told;
     contact(host);
-    memory.mail().composers().back()->finish(result, "an error");
+    memory.viewControllers().composers().back()->finish(result, "an error");
     EXPECT_EQ(host->told, before + 1);
     EXPECT_EQ(helper->delegate(), nullptr);
   }
@@ -248,7 +248,7 @@ TEST_F(SupportHelper, LivesUntilTheDismissalIsDone) {
 }
 
 TEST_F(SupportHelper, FollowsAScriptedOutcome) {
-  memory.mail().outcome = MailComposeResult::cancelled;
+  memory.viewControllers().mailOutcome = MailComposeResult::cancelled;
   contact(host);
   EXPECT_EQ(host->told, 1);
   EXPECT_FALSE(composer(0).isOnScreen());

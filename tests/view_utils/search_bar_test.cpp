@@ -2,9 +2,12 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
 
 #include "qv_commons/platform/memory/memory_platform.h"
-#include "qv_commons/platform/memory/memory_search_bar.h"
 
 #include "tests/support_code/allocation_counter.h"
 
@@ -13,89 +16,99 @@ namespace {
 
 using testing::ElementsAre;
 
-class SearchBarTest : public testing::Test {
+struct TextField {};
+struct OtherView {};
+
+// A search bar that records what it is asked. Its private value may be of any class.
+class Bar {
+ public:
+  using Value = std::variant<std::monostate, TextField*, OtherView*>;
+
+  Bar(memory::Record& record, TextField& published) : record_(record), published_(published) {}
+
+  Value privateValue;
+
+  TextField* searchTextField() const {
+    record_.add("bar.searchTextField");
+    return &published_;
+  }
+  Value valueForKey(std::string_view key) const {
+    record_.add("bar.valueForKey ", key);
+    return privateValue;
+  }
+  static TextField* toTextField(const Value& value) {
+    TextField* const* field = std::get_if<TextField*>(&value);
+    return field == nullptr ? nullptr : *field;
+  }
+
+ private:
+  memory::Record& record_;
+  TextField& published_;
+};
+
+class SearchBar : public testing::Test {
  protected:
-  void setVersion(OperatingSystemVersion version) { platform.device().versionNumber = version; }
+  TextField* fieldIn(OperatingSystemVersion version) {
+    platform.device().version = version;
+    return qv_searchTextField_all_iOS_versions(bar);
+  }
 
   memory::MemoryPlatform platform;
   ScopedPlatform scope{platform.platform()};
-  memory::MemorySearchBar bar{platform.record(), "bar"};
+  TextField published;
+  TextField inner;
+  OtherView other;
+  Bar bar{platform.record(), published};
 };
 
-TEST_F(SearchBarTest, GivesThePublishedFieldFromVersion13On) {
-  bar.values.clear();  // no key would help
+TEST_F(SearchBar, GivesThePublishedFieldFromVersion13On) {
+  bar.privateValue = &inner;
   for (const OperatingSystemVersion version :
        {OperatingSystemVersion{13, 0, 0}, {13, 0, 1}, {13, 4, 0}, {14, 0, 0}, {26, 0, 0}}) {
-    setVersion(version);
-    EXPECT_EQ(bar.qv_searchTextField_all_iOS_versions(), &bar.textField());
+    EXPECT_EQ(fieldIn(version), &published);
   }
 }
 
-TEST_F(SearchBarTest, AsksTheVersionAndThenTheOneSource) {
-  bar.qv_searchTextField_all_iOS_versions();
-  EXPECT_THAT(platform.record().lines(),
-              ElementsAre("systemVersion.isAtLeast 13.0.0", "bar.searchTextField"));
-  platform.record().clear();
-  setVersion({12, 0, 0});
-  bar.qv_searchTextField_all_iOS_versions();
-  EXPECT_THAT(platform.record().lines(),
-              ElementsAre("systemVersion.isAtLeast 13.0.0", "bar.valueForKey \"_searchField\""));
-}
-
-TEST_F(SearchBarTest, GivesTheValueOfTheKeyBeforeVersion13) {
-  memory::MemoryTextField other;
-  bar.values["_searchField"] = &other;
+TEST_F(SearchBar, GivesTheValueOfTheKeyBeforeVersion13) {
+  bar.privateValue = &inner;
   for (const OperatingSystemVersion version :
        {OperatingSystemVersion{11, 0, 0}, {12, 5, 7}, {12, 99, 99}}) {
-    setVersion(version);
-    EXPECT_EQ(bar.qv_searchTextField_all_iOS_versions(), &other);
+    EXPECT_EQ(fieldIn(version), &inner);
   }
 }
 
-TEST_F(SearchBarTest, GivesNullWhereTheKeyHoldsNothing) {
-  setVersion({12, 4, 0});
-  bar.values["_searchField"] = std::monostate();
-  EXPECT_EQ(bar.qv_searchTextField_all_iOS_versions(), nullptr);
+TEST_F(SearchBar, IsAskedForOneOfTheTwoAfterTheVersion) {
+  fieldIn({13, 0, 0});
+  EXPECT_THAT(platform.record().lines(),
+              ElementsAre("device.isAtLeast 13.0.0", "bar.searchTextField"));
+  platform.record().clear();
+  fieldIn({12, 0, 0});
+  EXPECT_THAT(platform.record().lines(),
+              ElementsAre("device.isAtLeast 13.0.0", "bar.valueForKey _searchField"));
 }
 
-TEST_F(SearchBarTest, GivesNullWhereTheKeyHoldsNoTextField) {
-  setVersion({12, 4, 0});
-  bar.values["_searchField"] = OtherObject();
-  EXPECT_EQ(bar.qv_searchTextField_all_iOS_versions(), nullptr);
+TEST_F(SearchBar, GivesNullIfTheKeyHasNoValue) {
+  EXPECT_EQ(fieldIn({12, 4, 0}), nullptr);
 }
 
-TEST_F(SearchBarTest, AsksTheVersionAtEveryRead) {
-  bar.values["_searchField"] = std::monostate();
-  setVersion({12, 4, 0});
-  EXPECT_EQ(bar.qv_searchTextField_all_iOS_versions(), nullptr);
-  setVersion({13, 0, 0});
-  EXPECT_EQ(bar.qv_searchTextField_all_iOS_versions(), &bar.textField());
-  setVersion({12, 4, 0});
-  EXPECT_EQ(bar.qv_searchTextField_all_iOS_versions(), nullptr);
+TEST_F(SearchBar, GivesNullIfTheValueIsNotATextField) {
+  bar.privateValue = &other;
+  EXPECT_EQ(fieldIn({12, 4, 0}), nullptr);
 }
 
-TEST_F(SearchBarTest, HandsOutTheFieldItself) {
-  bar.qv_searchTextField_all_iOS_versions()->setText("notes");
-  EXPECT_EQ(bar.textField().text(), "notes");
+TEST_F(SearchBar, IsReadAnewEachTime) {
+  EXPECT_EQ(fieldIn({12, 4, 0}), nullptr);
+  EXPECT_EQ(fieldIn({13, 0, 0}), &published);
+  EXPECT_EQ(fieldIn({12, 4, 0}), nullptr);
 }
 
-TEST_F(SearchBarTest, AllocatesNothing) {
+TEST_F(SearchBar, IsReadWithoutAllocation) {
+  bar.privateValue = &inner;
   platform.record().setPaused(true);
   test::AllocationCounter counter;
-  bar.qv_searchTextField_all_iOS_versions();
-  setVersion({12, 4, 0});
-  bar.qv_searchTextField_all_iOS_versions();
+  fieldIn({13, 0, 0});
+  fieldIn({12, 4, 0});
   EXPECT_EQ(counter.calls(), 0);
-}
-
-using SearchBarDeathTest = SearchBarTest;
-
-TEST_F(SearchBarDeathTest, LetsTheErrorOfAnUnknownKeyPass) {
-  setVersion({12, 4, 0});
-  bar.values.clear();
-  EXPECT_DEATH(bar.qv_searchTextField_all_iOS_versions(),
-               "QV_Commons fatal error: MemorySearchBar: bar has no value for the key "
-               "\"_searchField\"\n");
 }
 
 }  // namespace

@@ -23,13 +23,11 @@ using testing::ElementsAre;
 using Kind = ViewControllerKind;
 using Questions = std::vector<std::string>;
 
-// A controller with the links that a test gives it, which notes what it is asked.
-class Asked final : public NativeViewController {
+// A controller with the relations that a test gives it, which records what it is asked.
+class Asked final : public ViewController {
  public:
   Asked(Questions& questions, std::string name, Kind kind = Kind::plain)
-      : NativeViewController(kind), questions_(questions), name_(std::move(name)) {}
-
-  operator ViewController*() const { return &controller_; }
+      : ViewController(kind), questions_(questions), name_(std::move(name)) {}
 
   ViewController* child = nullptr;
   ViewController* presented = nullptr;
@@ -60,7 +58,6 @@ class Asked final : public NativeViewController {
 
   Questions& questions_;
   std::string name_;
-  mutable ViewController controller_{*this};
 };
 
 class TopViewController : public testing::Test {
@@ -82,84 +79,84 @@ TEST_F(TopViewController, OfNothingIsNothing) {
 }
 
 TEST_F(TopViewController, OfAPlainOneIsItself) {
-  plain.presenting = other;
-  plain.child = other;
-  EXPECT_EQ(topOf(plain), plain);
+  plain.presenting = &other;
+  plain.child = &other;
+  EXPECT_EQ(topOf(&plain), &plain);
   EXPECT_THAT(questions, ElementsAre("plain.presented"));
 }
 
 TEST_F(TopViewController, FollowsWhatAPlainOnePresents) {
-  plain.presented = other;
-  EXPECT_EQ(topOf(plain), other);
+  plain.presented = &other;
+  EXPECT_EQ(topOf(&plain), &other);
   EXPECT_THAT(questions, ElementsAre("plain.presented", "other.presented"));
 }
 
 TEST_F(TopViewController, FollowsTheVisibleOneAndNotWhatTheNavigationPresents) {
-  navigation.child = plain;
-  navigation.presented = other;
-  EXPECT_EQ(topOf(navigation), plain);
+  navigation.child = &plain;
+  navigation.presented = &other;
+  EXPECT_EQ(topOf(&navigation), &plain);
   EXPECT_THAT(questions, ElementsAre("navigation.child", "plain.presented"));
 }
 
 TEST_F(TopViewController, OfANavigationThatShowsNothingIsNothingWhateverItPresents) {
-  navigation.presented = other;
-  EXPECT_EQ(topOf(navigation), nullptr);
+  navigation.presented = &other;
+  EXPECT_EQ(topOf(&navigation), nullptr);
   EXPECT_THAT(questions, ElementsAre("navigation.child"));
 }
 
 TEST_F(TopViewController, FollowsTheSelectedTabAndNotWhatTheTabsPresent) {
-  tabs.child = plain;
-  tabs.presented = other;
-  EXPECT_EQ(topOf(tabs), plain);
+  tabs.child = &plain;
+  tabs.presented = &other;
+  EXPECT_EQ(topOf(&tabs), &plain);
   EXPECT_THAT(questions, ElementsAre("tabs.child", "plain.presented"));
 }
 
 TEST_F(TopViewController, FollowsWhatTabsWithoutASelectedOnePresent) {
-  tabs.presented = other;
-  EXPECT_EQ(topOf(tabs), other);
+  tabs.presented = &other;
+  EXPECT_EQ(topOf(&tabs), &other);
   EXPECT_THAT(questions, ElementsAre("tabs.child", "tabs.presented", "other.presented"));
 }
 
 TEST_F(TopViewController, OfTabsWithoutASelectedOneAreThemselves) {
-  EXPECT_EQ(topOf(tabs), tabs);
+  EXPECT_EQ(topOf(&tabs), &tabs);
   EXPECT_THAT(questions, ElementsAre("tabs.child", "tabs.presented"));
 }
 
 TEST_F(TopViewController, FollowsTheSelectedTabInsideOfANavigation) {
-  navigation.child = tabs;
-  tabs.child = plain;
-  plain.presented = other;
-  EXPECT_EQ(topOf(navigation), other);
+  navigation.child = &tabs;
+  tabs.child = &plain;
+  plain.presented = &other;
+  EXPECT_EQ(topOf(&navigation), &other);
 }
 
 TEST_F(TopViewController, IsNothingWhereANavigationOnTheWayShowsNothing) {
-  tabs.child = navigation;
-  tabs.presented = other;
-  EXPECT_EQ(topOf(tabs), nullptr);
+  tabs.child = &navigation;
+  tabs.presented = &other;
+  EXPECT_EQ(topOf(&tabs), nullptr);
 }
 
 TEST_F(TopViewController, OfAnAlertIsWhatPresentsIt) {
-  plain.presented = alert;
-  alert.presenting = plain;
-  EXPECT_EQ(topOf(plain), plain);
+  plain.presented = &alert;
+  alert.presenting = &plain;
+  EXPECT_EQ(topOf(&plain), &plain);
   EXPECT_THAT(questions, ElementsAre("plain.presented", "alert.presented", "alert.presenting"));
 }
 
 TEST_F(TopViewController, LooksNoFurtherThanWhatPresentsTheAlert) {
-  alert.presenting = navigation;
-  navigation.child = other;
-  EXPECT_EQ(topOf(alert), navigation);
+  alert.presenting = &navigation;
+  navigation.child = &other;
+  EXPECT_EQ(topOf(&alert), &navigation);
   EXPECT_THAT(questions, ElementsAre("alert.presented", "alert.presenting"));
 }
 
 TEST_F(TopViewController, OfAnAlertThatNobodyPresentsIsNothing) {
-  EXPECT_EQ(topOf(alert), nullptr);
+  EXPECT_EQ(topOf(&alert), nullptr);
 }
 
 TEST_F(TopViewController, FollowsWhatAnAlertPresents) {
-  alert.presented = other;
-  alert.presenting = plain;
-  EXPECT_EQ(topOf(alert), other);
+  alert.presented = &other;
+  alert.presenting = &plain;
+  EXPECT_EQ(topOf(&alert), &other);
   EXPECT_THAT(questions, ElementsAre("alert.presented", "other.presented"));
 }
 
@@ -168,9 +165,9 @@ TEST(TopViewControllerInMemory, FollowsRealPresentations) {
   const auto tabs = platform.makeViewController("tabs", Kind::tabBar);
   const auto home = platform.makeViewController("home");
   const auto settings = platform.makeViewController("settings");
-  memory::MemoryNode::of(*tabs).setChildViewController(home.get());
+  memory::MemoryController::of(*tabs).setChildViewController(home.get());
   home->presentViewController(settings, true, nullptr);
-  const auto alert = platform.alerts().makeAlertController("Sorry", "", AlertStyle::alert);
+  const auto alert = platform.viewControllers().makeAlertController("Sorry", "", AlertStyle::alert);
   settings->presentViewController(alert, true, nullptr);
   EXPECT_EQ(QV_ViewControllerHelper::topViewController(tabs.get()), settings.get());
 }
@@ -195,7 +192,7 @@ TEST(LongChain, OfTenMillionIsFollowedOnASmallStackWithoutAllocation) {
   const auto chain = std::make_unique<test::ChainLink[]>(kLength);
   for (std::size_t i = 0; i + 1 < kLength; ++i) chain[i].present(chain[i + 1]);
 
-  Search search{chain[0].controller()};
+  Search search{&chain[0]};
   pthread_attr_t attributes;
   ASSERT_EQ(pthread_attr_init(&attributes), 0);
   ASSERT_EQ(pthread_attr_setstacksize(&attributes, 256 * 1024), 0);
@@ -204,13 +201,13 @@ TEST(LongChain, OfTenMillionIsFollowedOnASmallStackWithoutAllocation) {
   ASSERT_EQ(pthread_join(thread, nullptr), 0);
   pthread_attr_destroy(&attributes);
 
-  EXPECT_EQ(search.found, chain[kLength - 1].controller());
+  EXPECT_EQ(search.found, &chain[kLength - 1]);
   EXPECT_EQ(search.allocations, 0);
 }
 
 // Controllers of another type, as an adapter has them: numbers, 0 for none, each presenting the
 // next one up to the last.
-struct NumberLinks {
+struct NumberRelations {
   using Controller = int;
   int last;
 
@@ -221,8 +218,8 @@ struct NumberLinks {
 };
 
 TEST(TopViewControllerFrom, WalksControllersOfAnotherType) {
-  EXPECT_EQ(topViewControllerFrom(3, NumberLinks{9}), 8);
-  EXPECT_EQ(topViewControllerFrom(0, NumberLinks{9}), 0);
+  EXPECT_EQ(topViewControllerFrom(3, NumberRelations{9}), 8);
+  EXPECT_EQ(topViewControllerFrom(0, NumberRelations{9}), 0);
 }
 
 }  // namespace

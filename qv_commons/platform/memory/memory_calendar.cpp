@@ -47,7 +47,7 @@ Day dayOf(std::int64_t daysFrom1970) {
   return {yearOfEra + era * 400, month, dayOfYear - (153 * month + 2) / 5 + 1};
 }
 
-bool isTold(double instant) {
+bool isInRange(double instant) {
   return std::abs(instant) <= kFarthest;  // false for what is not a number
 }
 
@@ -71,21 +71,30 @@ double yearsLater(const Moment& moment, std::int64_t years) {
 
 }  // namespace
 
-std::optional<std::int64_t> MemoryCalendar::yearsBetween(double from, double to) const {
-  record_.add("calendar.yearsBetween ", decimalText(from), " ", decimalText(to));
-  if (!available || !isTold(from) || !isTold(to)) return std::nullopt;
-  const Moment start = momentOf(from);
-  std::int64_t years = momentOf(to).day.year - start.day.year;
-  if (years > 0 && yearsLater(start, years) > to) --years;
-  if (years < 0 && yearsLater(start, years) < to) ++years;
+Instant utcDate(std::int64_t year, int month, int day) {
+  const bool isBeforeMarch = month < 3;
+  const Day counted = {isBeforeMarch ? year - 1 : year, (month + 9) % 12, day};
+  return instantAt(static_cast<double>(daysFrom1970(counted)) * kSecondsPerDay);
+}
+
+std::optional<std::int64_t> MemoryCalendar::yearsBetween(Instant from, Instant to) const {
+  const double begin = secondsSince1970(from);
+  const double end = secondsSince1970(to);
+  record_.add("calendar.yearsBetween ", decimalText(begin), " ", decimalText(end));
+  if (!available || !isInRange(begin) || !isInRange(end)) return std::nullopt;
+  const Moment start = momentOf(begin);
+  std::int64_t years = momentOf(end).day.year - start.day.year;
+  if (years > 0 && yearsLater(start, years) > end) --years;
+  if (years < 0 && yearsLater(start, years) < end) ++years;
   return years;
 }
 
-std::optional<double> MemoryCalendar::dateByAddingYears(double date, int years) const {
-  record_.add("calendar.dateByAddingYears ", decimalText(date), " ", std::to_string(years));
-  if (!available || !isTold(date)) return std::nullopt;
-  const double later = yearsLater(momentOf(date), years);
-  return isTold(later) ? std::optional(later) : std::nullopt;
+std::optional<Instant> MemoryCalendar::dateByAddingYears(Instant date, int years) const {
+  const double seconds = secondsSince1970(date);
+  record_.add("calendar.dateByAddingYears ", decimalText(seconds), " ", std::to_string(years));
+  if (!available || !isInRange(seconds)) return std::nullopt;
+  const double later = yearsLater(momentOf(seconds), years);
+  return isInRange(later) ? std::optional(instantAt(later)) : std::nullopt;
 }
 
 }  // namespace qv_commons::memory

@@ -45,8 +45,8 @@ std::shared_ptr<Bundle> MemoryBundles::bundleWithURL(const FileLocation& locatio
   return found == openable.end() ? nullptr : found->second;
 }
 
-FileContents MemoryFiles::read(const FileLocation& location) const {
-  record_.add("files.read ", location);
+FileContents MemoryBundles::read(const FileLocation& location) const {
+  record_.add("bundles.read ", location);
   const auto found = files.find(location);
   return found == files.end() ? FileContents{std::nullopt, "no such file"} : found->second;
 }
@@ -56,40 +56,43 @@ void MemoryConsole::print(std::string_view line) {
   lines.emplace_back(line);
 }
 
-std::string MemoryDevice::systemVersion() const {
-  record_.add("device.systemVersion");
-  return version;
-}
-
 std::string MemoryDevice::localizedModel() const {
   record_.add("device.localizedModel");
   return model;
 }
 
-std::vector<std::string> MemoryDevice::preferredLanguages() const {
-  record_.add("languages.preferredLanguages");
-  return languages;
-}
-
-Size MemoryDevice::bounds() const {
-  record_.add("screen.bounds");
-  return screenBounds;
-}
-
-UserInterfaceStyle MemoryDevice::userInterfaceStyle() const {
-  record_.add("screen.userInterfaceStyle");
-  return style;
+std::string MemoryDevice::systemVersion() const {
+  record_.add("device.systemVersion");
+  std::string text = std::to_string(version.majorVersion);
+  text.append(".").append(std::to_string(version.minorVersion));
+  if (version.patchVersion != 0) text.append(".").append(std::to_string(version.patchVersion));
+  return text;
 }
 
 bool MemoryDevice::isOperatingSystemAtLeastVersion(const OperatingSystemVersion& asked) const {
-  record_.add("systemVersion.isAtLeast ", std::to_string(asked.majorVersion), ".",
+  record_.add("device.isAtLeast ", std::to_string(asked.majorVersion), ".",
               std::to_string(asked.minorVersion), ".", std::to_string(asked.patchVersion));
-  return versionNumber >= asked;
+  return version >= asked;
 }
 
-double MemoryClock::timeIntervalSince1970() const {
-  record_.add("clock.timeIntervalSince1970");
-  return now;
+std::vector<std::string> MemoryDevice::preferredLanguages() const {
+  record_.add("device.preferredLanguages");
+  return languages;
+}
+
+Size MemoryDevice::screenBounds() const {
+  record_.add("device.screenBounds");
+  return screenSize;
+}
+
+UserInterfaceStyle MemoryDevice::userInterfaceStyle() const {
+  record_.add("device.userInterfaceStyle");
+  return style;
+}
+
+Instant MemoryClock::now() const {
+  record_.add("clock.now");
+  return time;
 }
 
 void MemoryApplication::openURL(const URL& url) {

@@ -16,11 +16,8 @@
 #include "qv_commons/platform/clock.h"
 #include "qv_commons/platform/console.h"
 #include "qv_commons/platform/device.h"
-#include "qv_commons/platform/files.h"
 #include "qv_commons/platform/memory/memory_layout.h"
 #include "qv_commons/platform/memory/record.h"
-#include "qv_commons/platform/screen.h"
-#include "qv_commons/platform/system_version.h"
 
 namespace qv_commons::memory {
 
@@ -53,8 +50,12 @@ class MemoryBundles final : public Bundles {
   // At first the library's bundle has the resource bundle, which holds the layouts of both screens.
   explicit MemoryBundles(Record& record);
 
-  // By location: what can be opened.
+  // By location: the bundles that can be opened.
   std::map<FileLocation, std::shared_ptr<MemoryBundle>, std::less<>> openable;
+
+  // By location; a file without bytes can't be read, with its description. A location that is not
+  // here gives "no such file".
+  std::map<FileLocation, FileContents, std::less<>> files;
 
   MemoryBundle& main() { return main_; }
   MemoryBundle& library() { return library_; }
@@ -63,26 +64,13 @@ class MemoryBundles final : public Bundles {
   const Bundle& mainBundle() const override { return main_; }
   const Bundle& libraryBundle() const override { return library_; }
   std::shared_ptr<Bundle> bundleWithURL(const FileLocation& location) const override;
+  FileContents read(const FileLocation& location) const override;
 
  private:
   Record& record_;
   MemoryBundle main_;
   MemoryBundle library_;
   std::shared_ptr<MemoryBundle> resources_;
-};
-
-class MemoryFiles final : public Files {
- public:
-  explicit MemoryFiles(Record& record) : record_(record) {}
-
-  // By location; a file without bytes can't be read, with its description. A location that is not
-  // here gives "no such file".
-  std::map<FileLocation, FileContents, std::less<>> files;
-
-  FileContents read(const FileLocation& location) const override;
-
- private:
-  Record& record_;
 };
 
 class MemoryConsole final : public Console {
@@ -97,23 +85,22 @@ class MemoryConsole final : public Console {
   Record& record_;
 };
 
-class MemoryDevice final : public Device, public Languages, public Screen, public SystemVersion {
+class MemoryDevice final : public Device {
  public:
   explicit MemoryDevice(Record& record) : record_(record) {}
 
-  std::string version = "14.4";
-  OperatingSystemVersion versionNumber = {14, 4, 0};
+  OperatingSystemVersion version = {14, 4, 0};  // read as "14.4"; {13, 1, 2} as "13.1.2"
   std::string model = "iPhone";
   std::vector<std::string> languages = {"en-US"};
-  Size screenBounds = {375, 667};
+  Size screenSize = {375, 667};
   UserInterfaceStyle style = UserInterfaceStyle::light;
 
-  std::string systemVersion() const override;
   std::string localizedModel() const override;
-  std::vector<std::string> preferredLanguages() const override;
-  Size bounds() const override;
-  UserInterfaceStyle userInterfaceStyle() const override;
+  std::string systemVersion() const override;
   bool isOperatingSystemAtLeastVersion(const OperatingSystemVersion& asked) const override;
+  std::vector<std::string> preferredLanguages() const override;
+  Size screenBounds() const override;
+  UserInterfaceStyle userInterfaceStyle() const override;
 
  private:
   Record& record_;
@@ -123,9 +110,9 @@ class MemoryClock final : public Clock {
  public:
   explicit MemoryClock(Record& record) : record_(record) {}
 
-  double now = 1700000000;  // 2023-11-14 22:13:20 UTC
+  Instant time = instantAt(1700000000);  // 2023-11-14 22:13:20 UTC
 
-  double timeIntervalSince1970() const override;
+  Instant now() const override;
 
  private:
   Record& record_;

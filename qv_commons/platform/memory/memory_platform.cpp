@@ -6,25 +6,21 @@ namespace qv_commons::memory {
 
 MemoryPlatform::MemoryPlatform()
     : platform_{.bundles = bundles_,
-                .files = files_,
                 .console = console_,
                 .device = device_,
-                .languages = device_,
-                .screen = device_,
-                .systemVersion = device_,
                 .clock = clock_,
                 .calendar = calendar_,
                 .userDefaults = userDefaults_,
                 .application = application_,
-                .mailComposers = mail_,
-                .alerts = alerts_,
-                .layoutLoader = layoutLoader_} {}
+                .viewControllers = viewControllers_} {}
+
+MemoryPlatform::~MemoryPlatform() {
+  transitions_.presentations().dismissAll();
+}
 
 std::shared_ptr<ViewController> MemoryPlatform::makeViewController(std::string name,
                                                                    ViewControllerKind kind) {
-  auto made = std::make_shared<MemoryViewController>(record_, transitions_, std::move(name), kind);
-  ViewController& controller = made->controller();
-  return {std::move(made), &controller};
+  return std::make_shared<MemoryViewController>(kind, record_, transitions_, std::move(name));
 }
 
 }  // namespace qv_commons::memory

@@ -9,11 +9,11 @@
 //     qv_commons::QV_SupportHelper::shared().contactSupport(
 //         *home, "support@example.com", "Help", {}, std::nullopt, std::nullopt, {});
 //
-//     auto& composer = *platform.mail().composers().back();
+//     auto& composer = *platform.viewControllers().composers().back();
 //     bool addressed = composer.message().toRecipients.front() == "support@example.com";
 //     composer.finish(qv_commons::MailComposeResult::sent);  // the user sends
 //
-// Every operation of every interface is noted in `record()`, in order. One thread at a time.
+// Every operation of every interface is recorded in `record()`, in order. One thread at a time.
 #pragma once
 
 #include <memory>
@@ -21,10 +21,8 @@
 
 #include "qv_commons/platform/memory/memory_calendar.h"
 #include "qv_commons/platform/memory/memory_host.h"
-#include "qv_commons/platform/memory/memory_mail.h"
-#include "qv_commons/platform/memory/memory_node.h"
-#include "qv_commons/platform/memory/memory_screen.h"
 #include "qv_commons/platform/memory/memory_user_defaults.h"
+#include "qv_commons/platform/memory/memory_view_controllers.h"
 #include "qv_commons/platform/memory/record.h"
 #include "qv_commons/platform/memory/transitions.h"
 #include "qv_commons/platform/platform.h"
@@ -34,10 +32,13 @@ namespace qv_commons::memory {
 class MemoryPlatform {
  public:
   MemoryPlatform();
+
+  // Dismisses everything that is presented.
+  ~MemoryPlatform();
   MemoryPlatform(const MemoryPlatform&) = delete;
   MemoryPlatform& operator=(const MemoryPlatform&) = delete;
 
-  // To be installed: `ScopedPlatform scope(memory.platform())`.
+  // Install it: `ScopedPlatform scope(memory.platform())`.
   const Platform& platform() const { return platform_; }
 
   Record& record() { return record_; }
@@ -46,16 +47,13 @@ class MemoryPlatform {
   MemoryBundles& bundles() { return bundles_; }
   MemoryBundle& mainBundle() { return bundles_.main(); }
   MemoryBundle& resourceBundle() { return bundles_.resources(); }  // the library's
-  MemoryFiles& files() { return files_; }
   MemoryConsole& console() { return console_; }
   MemoryDevice& device() { return device_; }
   MemoryClock& clock() { return clock_; }
   MemoryCalendar& calendar() { return calendar_; }
   MemoryUserDefaults& userDefaults() { return userDefaults_; }
   MemoryApplication& application() { return application_; }
-  MemoryMail& mail() { return mail_; }
-  MemoryAlerts& alerts() { return alerts_; }
-  MemoryLayoutLoader& layoutLoader() { return layoutLoader_; }
+  MemoryViewControllers& viewControllers() { return viewControllers_; }
 
   // A screen of the host's, of that kind; `name` stands for it in the record.
   std::shared_ptr<ViewController> makeViewController(
@@ -65,16 +63,13 @@ class MemoryPlatform {
   Record record_;
   Transitions transitions_;
   MemoryBundles bundles_{record_};
-  MemoryFiles files_{record_};
   MemoryConsole console_{record_};
   MemoryDevice device_{record_};
   MemoryClock clock_{record_};
   MemoryCalendar calendar_{record_};
   MemoryUserDefaults userDefaults_{record_};
   MemoryApplication application_{record_};
-  MemoryMail mail_{record_, transitions_};
-  MemoryAlerts alerts_{record_, transitions_};
-  MemoryLayoutLoader layoutLoader_{record_, transitions_, application_, bundles_};
+  MemoryViewControllers viewControllers_{record_, transitions_, application_, bundles_};
   Platform platform_;
 };
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "qv_commons/age_gate/tapped_link.h"
 #include "qv_commons/platform/fatal_error.h"
-#include "qv_commons/support/url.h"
 
 namespace qv_commons::memory {
 namespace {
@@ -29,7 +29,7 @@ std::shared_ptr<View> makeView(Record& record, std::string name, const ViewLayou
 
 MemoryScreen::MemoryScreen(Record& record, Transitions& transitions, Application& application,
                            std::string name, Source source)
-    : MemoryNode(record, transitions, std::move(name)),
+    : NativeOf(record, transitions, std::move(name)),
       application_(application),
       source_(std::move(source)) {}
 
@@ -44,18 +44,11 @@ void MemoryScreen::load() {
   for (const auto& [viewName, view] : layout_) {
     views_[viewName] = makeView(record(), name() + "." + viewName, view);
   }
-  for (const Outlet& outlet : screen_->outlets()) connect(outlet);
-  screen_->viewDidLoad();
-}
-
-void MemoryScreen::connect(const Outlet& outlet) {
-  const auto found = views_.find(outlet.name);
-  if (found == views_.end()) return;
-  std::visit(
-      [&]<class ViewType>(std::weak_ptr<ViewType>* reference) {
-        *reference = std::dynamic_pointer_cast<ViewType>(found->second);
-      },
-      outlet.reference);
+  for (const Outlet& outlet : screen().outlets()) {
+    const auto view = views_.find(outlet.name);
+    outlet.connect(view == views_.end() ? nullptr : view->second);
+  }
+  screen().viewDidLoad();
 }
 
 bool MemoryScreen::tap(std::string_view button) {
@@ -64,7 +57,7 @@ bool MemoryScreen::tap(std::string_view button) {
   return true;
 }
 
-bool MemoryScreen::pick(std::string_view datePicker, double date) {
+bool MemoryScreen::pick(std::string_view datePicker, Instant date) {
   if (!isOnTop()) return false;
   view<MemoryDatePicker>(datePicker).turnTo(date);
   trigger(datePicker);
@@ -76,18 +69,14 @@ bool MemoryScreen::tapLink(std::string_view textView, std::size_t unit) {
   auto& tapped = view<MemoryTextView>(textView);
   const std::optional<Link> link = tapped.choosableLinkAt(unit);
   if (!link) return false;
-  TextViewDelegate* delegate = tapped.delegate();
-  if (delegate != nullptr && !delegate->shouldInteractWithURL(tapped, link->value, link->range)) {
-    return true;
-  }
-  if (const std::optional<URL> url = URL::parse(link->value)) application_.openURL(*url);
+  interactWithLink(tapped, tapped.delegate(), link->value, link->range, application_);
   return true;
 }
 
 void MemoryScreen::trigger(std::string_view view) {
   const std::string& selector = layout_.find(view)->second.action;
   if (selector.empty()) return;
-  const std::vector<Action> actions = screen_->actions();
+  const std::vector<Action> actions = screen().actions();
   const auto found = std::find_if(actions.begin(), actions.end(), [&](const Action& action) {
     return action.selector == selector;
   });
@@ -102,37 +91,6 @@ View* MemoryScreen::findView(std::string_view name) const {
 
 void MemoryScreen::failWithoutView(std::string_view view) const {
   fatalError(name() + " has no such view: " + std::string(view));
-}
-
-MemoryLayoutLoader::~MemoryLayoutLoader() {
-  for (const std::weak_ptr<MemoryScreen>& made : screens_) {
-    const std::shared_ptr<MemoryScreen> screen = made.lock();
-    while (screen && screen->isOnScreen()) {
-      screen->PresentationNode::dismissViewController(false, nullptr);
-    }
-  }
-}
-
-std::shared_ptr<MemoryScreen> MemoryLayoutLoader::lastScreen() const {
-  const auto living = std::find_if(screens_.rbegin(), screens_.rend(),
-                                   [](const auto& screen) { return !screen.expired(); });
-  return living == screens_.rend() ? nullptr : living->lock();
-}
-
-std::shared_ptr<LayoutScreen> MemoryLayoutLoader::initWithNibName(std::string_view name,
-                                                                  std::shared_ptr<Bundle> bundle,
-                                                                  const LayoutScreenFactory& make) {
-  std::shared_ptr<const MemoryBundle> source(std::shared_ptr<void>(), &bundles_.main());
-  if (bundle) source = std::static_pointer_cast<const MemoryBundle>(std::move(bundle));
-  std::string screenName = "screen" + std::to_string(screens_.size() + 1);
-  record_.add("layoutLoader.initWithNibName ", screenName, " ", name, " ", source->name());
-  auto screen =
-      std::make_shared<MemoryScreen>(record_, transitions_, application_, std::move(screenName),
-                                     MemoryScreen::Source{std::move(source), std::string(name)});
-  screen->screen_ = make(*screen);
-  screens_.push_back(screen);
-  LayoutScreen& controller = screen->controller();
-  return {std::move(screen), &controller};
 }
 
 }  // namespace qv_commons::memory

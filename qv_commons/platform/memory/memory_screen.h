@@ -6,9 +6,9 @@
 //         host, 18, nullptr, nullptr, qv_commons::QV_AgeGateColorTheme::defaultTheme(),
 //         "https://example.com/privacy", "https://example.com/terms");
 //
-//     auto screen = platform.layoutLoader().lastScreen();
-//     screen->pick("datePicker", 951782400);  // 2000-02-29
-//     screen->tap("confirmBtn");
+//     auto& screen = *platform.viewControllers().lastScreen();
+//     screen.pick("datePicker", qv_commons::memory::utcDate(2000, 2, 29));
+//     screen.tap("confirmBtn");
 //
 // It loads its views when it is first presented.
 #pragma once
@@ -19,14 +19,14 @@
 #include <string_view>
 
 #include "qv_commons/platform/application.h"
-#include "qv_commons/platform/layout_loader.h"
+#include "qv_commons/platform/layout_screen.h"
+#include "qv_commons/platform/memory/memory_controller.h"
 #include "qv_commons/platform/memory/memory_host.h"
-#include "qv_commons/platform/memory/memory_node.h"
 #include "qv_commons/platform/memory/memory_text_view.h"
 
 namespace qv_commons::memory {
 
-class MemoryScreen final : public MemoryNode {
+class MemoryScreen final : public NativeOf<ViewController, MemoryController> {
  public:
   struct Source {
     std::shared_ptr<const MemoryBundle> bundle;
@@ -36,11 +36,14 @@ class MemoryScreen final : public MemoryNode {
   MemoryScreen(Record& record, Transitions& transitions, Application& application, std::string name,
                Source source);
 
+  // The library's screen that this is the native of.
+  LayoutScreen& screen() const { return static_cast<LayoutScreen&>(controller()); }
+
   // Connects the views and calls `viewDidLoad`, the first time. A layout that the bundle doesn't
   // have is a fatal error.
   void load();
 
-  // The view of that name, by its class: `view<MemoryLabel>("header").text()`. A fatal error where
+  // The view of that name, by its class: `view<MemoryLabel>("header").text()`. A fatal error if
   // the loaded screen has none of that name and class.
   template <class ViewType>
   ViewType& view(std::string_view name) const {
@@ -49,19 +52,14 @@ class MemoryScreen final : public MemoryNode {
     return *found;
   }
 
-  // What the user does. False, and nothing happens, where the screen is not on top, the button is
-  // disabled, or there is no link over that UTF-16 unit of a text whose links can be chosen.
+  // What the user does. False, and nothing happens, if the screen is not on top, the button is
+  // disabled, or that UTF-16 unit of the text has no link that can be tapped.
   bool tap(std::string_view button);
-  bool pick(std::string_view datePicker, double date);  // past the maximum: the maximum
+  bool pick(std::string_view datePicker, Instant date);  // past the maximum: the maximum
   bool tapLink(std::string_view textView, std::size_t unit);
 
-  LayoutScreen& controller() override { return *screen_; }
-
  private:
-  friend class MemoryLayoutLoader;
-
-  bool isOnTop() const { return isOnScreen() && presentedViewController() == nullptr; }
-  void connect(const Outlet& outlet);
+  bool isOnTop() const { return isOnScreen() && presented() == nullptr; }
   void trigger(std::string_view view);
   View* findView(std::string_view name) const;
   [[noreturn]] void failWithoutView(std::string_view view) const;
@@ -69,34 +67,9 @@ class MemoryScreen final : public MemoryNode {
 
   Application& application_;
   Source source_;
-  std::unique_ptr<LayoutScreen> screen_;
   bool loaded_ = false;
   MemoryLayout layout_;
   std::map<std::string, std::shared_ptr<View>, std::less<>> views_;
-};
-
-class MemoryLayoutLoader final : public LayoutLoader {
- public:
-  MemoryLayoutLoader(Record& record, Transitions& transitions, Application& application,
-                     MemoryBundles& bundles)
-      : record_(record), transitions_(transitions), application_(application), bundles_(bundles) {}
-
-  // Takes what it made off the screen: a screen that keeps its host would keep itself alive.
-  ~MemoryLayoutLoader() override;
-
-  // The newest screen that lives, or null. In the record they are screen1, screen2 and so on.
-  std::shared_ptr<MemoryScreen> lastScreen() const;
-
-  std::shared_ptr<LayoutScreen> initWithNibName(std::string_view name,
-                                                std::shared_ptr<Bundle> bundle,
-                                                const LayoutScreenFactory& make) override;
-
- private:
-  Record& record_;
-  Transitions& transitions_;
-  Application& application_;
-  MemoryBundles& bundles_;
-  std::vector<std::weak_ptr<MemoryScreen>> screens_;
 };
 
 }  // namespace qv_commons::memory

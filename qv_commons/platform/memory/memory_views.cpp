@@ -35,17 +35,17 @@ void MemoryButton::setTitleColor(const Color& color, ControlState state) {
   titleColors_.at(static_cast<std::size_t>(state)) = color;
 }
 
-void MemoryDatePicker::setMaximumDate(std::optional<double> date) {
-  note("setMaximumDate ", date ? decimalText(*date) : std::string("none"));
+void MemoryDatePicker::setMaximumDate(std::optional<Instant> date) {
+  note("setMaximumDate ", date ? decimalText(secondsSince1970(*date)) : std::string("none"));
   maximumDate_ = date;
 }
 
-void MemoryDatePicker::setDate(double date) {
-  note("setDate ", decimalText(date));
+void MemoryDatePicker::setDate(Instant date) {
+  note("setDate ", decimalText(secondsSince1970(date)));
   date_ = date;
 }
 
-double MemoryDatePicker::date() const {
+Instant MemoryDatePicker::date() const {
   note("date");
   return maximumDate_ && date_ > *maximumDate_ ? *maximumDate_ : date_;
 }

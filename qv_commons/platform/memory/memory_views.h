@@ -1,11 +1,11 @@
-// The views of the memory adapter: each operation is noted in the record, and what was set can be
+// The views of the memory adapter: each operation is recorded, and what was set can be
 // read. `MemoryScreen` plays the user on them.
 //
 //     qv_commons::memory::Record record;
 //     qv_commons::memory::MemoryLabel title(record, "title", "Hello");
 //     title.setText("Good day");
 //     bool changed = title.text() == "Good day";
-//     bool noted = record.lines().back() == "title.setText \"Good day\"";
+//     bool recorded = record.lines().back() == "title.setText \"Good day\"";
 #pragma once
 
 #include <array>
@@ -31,7 +31,7 @@ class MemoryViewOf : public Interface {
   // `name` stands for the view in the record's lines.
   MemoryViewOf(Record& record, std::string name) : record_(record), name_(std::move(name)) {}
 
-  // What was set; nothing, 0 and false at first.
+  // What was set; std::nullopt, 0 and false at first.
   const std::optional<Color>& backgroundColor() const { return backgroundColor_; }
   double cornerRadius() const { return cornerRadius_; }
   bool clipsToBounds() const { return clipsToBounds_; }
@@ -106,18 +106,18 @@ class MemoryDatePicker final : public MemoryViewOf<DatePicker> {
  public:
   using MemoryViewOf::MemoryViewOf;
 
-  const std::optional<double>& maximumDate() const { return maximumDate_; }
+  const std::optional<Instant>& maximumDate() const { return maximumDate_; }
 
-  // The wheels are turned: like `setDate`, but noted nowhere.
-  void turnTo(double date) { date_ = date; }
+  // The wheels are turned: like `setDate`, but not recorded.
+  void turnTo(Instant date) { date_ = date; }
 
-  void setMaximumDate(std::optional<double> date) override;
-  void setDate(double date) override;
-  double date() const override;  // the maximum, where what was set lies beyond it
+  void setMaximumDate(std::optional<Instant> date) override;
+  void setDate(Instant date) override;
+  Instant date() const override;  // the maximum, if what was set lies beyond it
 
  private:
-  std::optional<double> maximumDate_;
-  double date_ = 0;
+  std::optional<Instant> maximumDate_;
+  Instant date_ = {};
 };
 
 }  // namespace qv_commons::memory

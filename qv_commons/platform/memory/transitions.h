@@ -1,4 +1,5 @@
-// When the completions of presentations and dismissals run: at once, or by hand.
+// The presentations and dismissals of the memory adapter, and when their completions run: at once,
+// or by hand.
 //
 //     qv_commons::memory::Transitions transitions;
 //     transitions.setByHand(true);
@@ -9,7 +10,7 @@
 #include <cstddef>
 #include <deque>
 
-#include "qv_commons/platform/view_controller.h"
+#include "qv_commons/platform/presentation.h"
 
 namespace qv_commons::memory {
 
@@ -21,10 +22,13 @@ class Transitions {
   void finish(Completion completion);
 
   std::size_t waiting() const { return waiting_.size(); }
-  void runNext();  // the oldest; nothing where none waits
-  void runAll();   // those that come up meanwhile included
+  void runNext();  // the oldest; nothing if none waits
+  void runAll();   // including those that are added meanwhile
+
+  Presentations& presentations() { return presentations_; }
 
  private:
+  Presentations presentations_;
   bool byHand_ = false;
   std::deque<Completion> waiting_;
 };

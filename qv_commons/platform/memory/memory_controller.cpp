@@ -1,4 +1,4 @@
-#include "qv_commons/platform/memory/memory_node.h"
+#include "qv_commons/platform/memory/memory_controller.h"
 
 #include <utility>
 
@@ -24,47 +24,39 @@ std::string_view transitionText(bool animated, const Completion& completion) {
 
 }  // namespace
 
-MemoryNode::MemoryNode(Record& record, Transitions& transitions, std::string name,
-                       ViewControllerKind kind)
-    : PresentationNode(kind), record_(record), transitions_(transitions), name_(std::move(name)) {}
-
-MemoryNode& MemoryNode::of(const ViewController& controller) {
-  return static_cast<MemoryNode&>(controller.native());
+MemoryController& MemoryController::of(ViewController& controller) {
+  return static_cast<MemoryController&>(NativeController::of(controller));
 }
 
-bool MemoryNode::swipeAway() {
+bool MemoryController::swipeAway() {
   if (!isOnScreen() || modalInPresentation_) return false;
-  leave(nullptr);
+  NativeController::dismiss(true, nullptr);
   return true;
 }
 
-void MemoryNode::leave(Completion completion) {
-  PresentationNode::dismissViewController(true, std::move(completion));
-}
-
-void MemoryNode::presentViewController(std::shared_ptr<ViewController> controller, bool animated,
-                                       Completion completion) {
+void MemoryController::present(std::shared_ptr<ViewController> controller, bool animated,
+                               Completion completion) {
   record_.add(name_, ".presentViewController ", of(*controller).name(),
               transitionText(animated, completion));
-  PresentationNode::presentViewController(std::move(controller), animated, std::move(completion));
+  NativeController::present(std::move(controller), animated, std::move(completion));
 }
 
-void MemoryNode::dismissViewController(bool animated, Completion completion) {
+void MemoryController::dismiss(bool animated, Completion completion) {
   record_.add(name_, ".dismissViewController", transitionText(animated, completion));
-  PresentationNode::dismissViewController(animated, std::move(completion));
+  NativeController::dismiss(animated, std::move(completion));
 }
 
-void MemoryNode::setModalInPresentation(bool modal) {
+void MemoryController::setModalInPresentation(bool modal) {
   record_.add(name_, ".setModalInPresentation ", modal ? "true" : "false");
   modalInPresentation_ = modal;
 }
 
-void MemoryNode::setOverrideUserInterfaceStyle(UserInterfaceStyle style) {
+void MemoryController::setOverrideUserInterfaceStyle(UserInterfaceStyle style) {
   record_.add(name_, ".setOverrideUserInterfaceStyle ", nameOf(style));
   overrideStyle_ = style;
 }
 
-void MemoryNode::afterTransition(Completion transitionDone) {
+void MemoryController::afterTransition(Completion transitionDone) {
   transitions_.finish(std::move(transitionDone));
 }
 
