@@ -36,6 +36,9 @@ class MailComposeDelegate {
 
 class MailComposer : public ViewController {
  public:
+  explicit MailComposer(ViewControllerKind kind = ViewControllerKind::plain)
+      : ViewController(kind) {}
+
   virtual void setToRecipients(std::vector<std::string> recipients) = 0;
   virtual void setSubject(std::string subject) = 0;
   virtual void setMailComposeDelegate(std::weak_ptr<MailComposeDelegate> delegate) = 0;

@@ -73,6 +73,7 @@ class NativeController {
 
   ViewController* presented() const { return presented_.get(); }
   ViewController* presenting() const { return presenter_ ? presenter_->controller_ : nullptr; }
+  std::shared_ptr<ViewController> retained() const { return controller_->shared_from_this(); }
 
  protected:
   virtual void show(bool animated) = 0;
@@ -128,9 +129,7 @@ class NativeOf : public Interface, public Native {
   ViewController* presentedViewController() const override { return this->presented(); }
   ViewController* presentingViewController() const override { return this->presenting(); }
   ViewController* childViewController() const override { return Native::childViewController(); }
-  std::shared_ptr<ViewController> retained() override {
-    return this->controller().shared_from_this();
-  }
+  std::shared_ptr<ViewController> retained() override { return Native::retained(); }
 };
 
 }  // namespace qv_commons
