@@ -7,6 +7,7 @@ namespace standin {
 namespace {
 
 int pauses = 0;
+bool strictPresentation = false;
 const char kName = 0;
 
 std::deque<void (^)(void)>& transitions() {
@@ -31,6 +32,7 @@ void reset() {
   setUserInterfaceStyle(UIUserInterfaceStyleLight);
   setReceiptURL(nil);
   setCanSendMail(true);
+  setStrictPresentation(false);
   [openedURLs() removeAllObjects];
   [NSUserDefaults.standardUserDefaults removeObjectForKey:@"QV_AgeGate_Shown"];
   [NSUserDefaults.standardUserDefaults removeObjectForKey:@"QV_AgeGate_Blocked"];
@@ -71,8 +73,15 @@ NSString* nameOf(id object) {
   return NSStringFromClass([object class]);
 }
 
+void setStrictPresentation(bool strict) {
+  strictPresentation = strict;
+}
+
+bool presentsStrictly() {
+  return strictPresentation;
+}
+
 void afterTransition(BOOL animated, void (^done)(void)) {
-  if (done == nil) return;
   if (animated) {
     transitions().push_back([done copy]);
   } else {

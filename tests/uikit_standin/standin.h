@@ -19,7 +19,8 @@
 namespace standin {
 
 // Everything as at the start of a test: 2023-11-14 22:13:20 UTC, system 14.4 on an "iPhone" of 375
-// by 667 points in the light look, mail set up, empty records, empty user defaults, no receipt.
+// by 667 points in the light look, mail set up, empty records, empty user defaults, no receipt,
+// presentation not strict.
 void reset();
 
 std::vector<std::string>& record();
@@ -59,6 +60,12 @@ void finishTransition();
 void finishTransitions();
 std::size_t waitingTransitions();
 
+// Strict: a controller that presents something, or whose presented one is still being dismissed,
+// presents nothing more; what it is told to present is lost, and its completion never runs. UIKit
+// may do so, and does not always.
+void setStrictPresentation(bool strict);
+bool presentsStrictly();
+
 // What the user does.
 void tap(UIAlertAction* action);                       // on a button of an alert on the screen
 bool tapLink(UITextView* textView, NSUInteger index);  // on the character; false: no link there
@@ -96,7 +103,7 @@ void setSearchField(UISearchBar* searchBar, id value);
 // is wrong, where the platform would, and for an element it does not know.
 void loadNib(NSString* path, UIViewController* owner);
 
-// For the doubles: runs `done`, which may be nil, when the transition ends.
+// For the doubles: runs `done` when the transition ends.
 void afterTransition(BOOL animated, void (^done)(void));
 
 }  // namespace standin

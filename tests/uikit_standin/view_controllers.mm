@@ -3,9 +3,34 @@
 using standin::nameOf;
 using standin::note;
 
+typedef void (^StandinTransitionBlock)(id<UIViewControllerTransitionCoordinatorContext>);
+
+// A presentation or dismissal under way.
+@interface StandinTransition : NSObject <UIViewControllerTransitionCoordinator>
+- (void)end;
+@end
+
+@implementation StandinTransition {
+  NSMutableArray<StandinTransitionBlock>* _completions;
+}
+- (BOOL)animateAlongsideTransition:(StandinTransitionBlock)animation
+                        completion:(StandinTransitionBlock)completion {
+  if (animation) animation(self);
+  if (_completions == nil) _completions = [NSMutableArray array];
+  if (completion) [_completions addObject:[completion copy]];
+  return YES;
+}
+- (void)end {
+  for (StandinTransitionBlock completion in _completions) completion(self);
+  _completions = nil;
+}
+@end
+
 @implementation UIViewController {
   NSMutableArray<UIViewController*>* _presented;  // the last one on top
-  __weak UIViewController* _presenter;
+  UIViewController* _presenter;                   // kept while it presents this one
+  StandinTransition* _transition;                 // the last that began, until it ends
+  int _dismissalsUnderWay;                        // of what this one presented
   BOOL _modalInPresentation;
   UIUserInterfaceStyle _overrideUserInterfaceStyle;
 }
@@ -80,6 +105,23 @@ using standin::note;
   _overrideUserInterfaceStyle = style;
 }
 
+- (id<UIViewControllerTransitionCoordinator>)transitionCoordinator {
+  return _transition;
+}
+// Runs `completion` when the transition of these controllers has ended.
++ (void)standinTransitionOf:(NSArray<UIViewController*>*)controllers
+                   animated:(BOOL)animated
+                 completion:(void (^)(void))completion {
+  StandinTransition* transition = animated ? [StandinTransition new] : nil;
+  for (UIViewController* each in controllers) each->_transition = transition;
+  standin::afterTransition(animated, ^{
+    for (UIViewController* each in controllers) {
+      if (each->_transition == transition) each->_transition = nil;
+    }
+    if (completion) completion();
+    [transition end];
+  });
+}
 - (UIViewController*)presentedViewController {
   return _presented.lastObject;
 }
@@ -97,30 +139,36 @@ using standin::note;
                        @"being presented by %@.",
                        nameOf(presented), nameOf(presented->_presenter)];
   }
+  if (standin::presentsStrictly() && (_presented.count > 0 || _dismissalsUnderWay > 0)) return;
   if (_presented == nil) _presented = [NSMutableArray array];
   [_presented addObject:presented];
   presented->_presenter = self;
   [presented loadViewIfNeeded];
-  standin::afterTransition(animated, completion);
+  [UIViewController standinTransitionOf:@[ self, presented ]
+                               animated:animated
+                             completion:completion];
 }
 - (void)dismissViewControllerAnimated:(BOOL)animated completion:(void (^)(void))completion {
   note(@"%@ dismissViewControllerAnimated:%d completion:%@", nameOf(self), animated,
        completion ? @"block" : @"nil");
-  UIViewController* presenter = _presenter;
-  NSMutableArray* gone = [NSMutableArray array];
-  if (_presented.count > 0) {
+  NSMutableArray<UIViewController*>* gone = [NSMutableArray array];
+  UIViewController* presenter = _presented.count > 0 ? self : _presenter;
+  if (presenter == nil) return;
+  if (presenter == self) {
     [self standinTakeAwayPresentedInto:gone];
-  } else if (presenter != nil) {
+  } else {
     [gone addObject:self];
     [presenter->_presented removeObjectIdenticalTo:self];
     _presenter = nil;
-  } else {
-    return;
   }
-  standin::afterTransition(animated, ^{
-    if (completion) completion();
-    (void)gone.count;  // what leaves the screen lives until here
-  });
+  ++presenter->_dismissalsUnderWay;
+  // What leaves the screen lives until then.
+  [UIViewController standinTransitionOf:[gone arrayByAddingObject:presenter]
+                               animated:animated
+                             completion:^{
+                               --presenter->_dismissalsUnderWay;
+                               if (completion) completion();
+                             }];
 }
 - (void)standinTakeAwayPresentedInto:(NSMutableArray*)gone {
   for (UIViewController* each in _presented) {

@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <functional>
+
 #import "tests/uikit_standin/standin.h"
 
 using standin::nameOf;
@@ -20,6 +23,7 @@ using standin::note;
 
 @implementation UIColor {
   CGFloat _components[4];
+  BOOL _gray;
 }
 + (UIColor*)colorWithRed:(CGFloat)red green:(CGFloat)green blue:(CGFloat)blue alpha:(CGFloat)alpha {
   UIColor* color = [UIColor new];
@@ -29,13 +33,29 @@ using standin::note;
   color->_components[3] = alpha;
   return color;
 }
++ (UIColor*)standinGray:(CGFloat)white {
+  UIColor* color = [UIColor colorWithRed:white green:white blue:white alpha:1];
+  color->_gray = YES;
+  return color;
+}
 + (UIColor*)whiteColor {
-  static UIColor* white = [UIColor colorWithRed:1 green:1 blue:1 alpha:1];
+  static UIColor* white = [UIColor standinGray:1];
   return white;
 }
 + (UIColor*)blackColor {
-  static UIColor* black = [UIColor colorWithRed:0 green:0 blue:0 alpha:1];
+  static UIColor* black = [UIColor standinGray:0];
   return black;
+}
+// As on the platform, a grey is never equal to a colour of red, green and blue.
+- (BOOL)isEqual:(id)other {
+  if (![other isKindOfClass:[UIColor class]]) return NO;
+  const UIColor* color = other;
+  return _gray == color->_gray && std::equal(_components, _components + 4, color->_components);
+}
+- (NSUInteger)hash {
+  NSUInteger hash = _gray;
+  for (CGFloat component : _components) hash = hash * 31 + std::hash<CGFloat>()(component);
+  return hash;
 }
 - (BOOL)getRed:(CGFloat*)red green:(CGFloat*)green blue:(CGFloat*)blue alpha:(CGFloat*)alpha {
   if (red) *red = _components[0];

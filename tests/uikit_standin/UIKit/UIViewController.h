@@ -5,6 +5,17 @@
 
 NS_ASSUME_NONNULL_BEGIN
 
+@protocol UIViewControllerTransitionCoordinatorContext <NSObject>
+@end
+
+@protocol UIViewControllerTransitionCoordinator <UIViewControllerTransitionCoordinatorContext>
+- (BOOL)animateAlongsideTransition:
+            (void (^_Nullable)(id<UIViewControllerTransitionCoordinatorContext> context))animation
+                        completion:(void (^_Nullable)(
+                                       id<UIViewControllerTransitionCoordinatorContext> context))
+                                       completion;
+@end
+
 @interface UIViewController : UIResponder
 - (instancetype)initWithNibName:(nullable NSString*)nibName
                          bundle:(nullable NSBundle*)bundle NS_DESIGNATED_INITIALIZER;
@@ -21,6 +32,8 @@ NS_ASSUME_NONNULL_BEGIN
     API_AVAILABLE(ios(13.0));
 // clang-format on
 @property(nonatomic) UIUserInterfaceStyle overrideUserInterfaceStyle API_AVAILABLE(ios(13.0));
+@property(nonatomic, readonly, nullable) id<UIViewControllerTransitionCoordinator>
+    transitionCoordinator;
 - (void)viewDidLoad;
 - (void)loadViewIfNeeded;
 - (void)presentViewController:(UIViewController*)viewControllerToPresent
