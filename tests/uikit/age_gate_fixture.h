@@ -51,6 +51,7 @@ class AgeGateTest : public UIKitTest {
         colorTheme:makeTheme()
         privacyLink:@"https://example.com/privacy"
         termsOfServiceLink:@"https://example.com/terms"];
+    standin::finishTransitions();
   }
 
   QV_AgeGateViewController* gate() const {
@@ -70,6 +71,10 @@ class AgeGateTest : public UIKitTest {
   }
   static void confirm(QV_AgeGateViewController* gate) {
     [gate.confirmBtn sendActionsForControlEvents:UIControlEventTouchUpInside];
+  }
+  static void confirmAndWait(QV_AgeGateViewController* gate) {
+    confirm(gate);
+    standin::finishTransitions();
   }
 
   static bool flag(NSString* key) { return [NSUserDefaults.standardUserDefaults boolForKey:key]; }

@@ -69,7 +69,7 @@ TEST_F(UIKitAgeGate, RefusesAUserADayTooYoung) {
   start(18);
   pick(gate(), kEighteenYearsAgo + kDay);
   lines();
-  confirm(gate());
+  confirmAndWait(gate());
   EXPECT_THAT(
       lines(),
       ElementsAre(
@@ -94,11 +94,41 @@ TEST_F(UIKitAgeGate, RefusesAUserADayTooYoung) {
   EXPECT_TRUE(flag(@"QV_AgeGate_Blocked"));
 }
 
+// A system that presents during a dismissal, and one that loses what comes then.
+class UIKitRefusal : public AgeGateTest, public testing::WithParamInterface<bool> {
+ protected:
+  UIKitRefusal() { standin::setStrictPresentation(GetParam()); }
+};
+
+TEST_P(UIKitRefusal, IsPresentedWhenTheScreenBeforeItIsGone) {
+  start(18);
+  pick(gate(), 1700000000);
+  confirm(gate());
+  EXPECT_OBJECT(home.presentedViewController, nil);
+  standin::finishTransition();
+  EXPECT_TRUE([refusal() isKindOfClass:[QV_AgeGateRefusedViewController class]]);
+  standin::finishTransitions();
+  lines();
+  EXPECT_EQ(refusal().presentingViewController, home);
+  EXPECT_TRUE(standin::tapLink(refusal().contact, 38));
+  EXPECT_OBJECT(contacted, @[ refusal() ]);
+}
+
+TEST_P(UIKitRefusal, IsPresentedAtOnceWhereNothingMoves) {
+  setFlag(@"QV_AgeGate_Shown");
+  setFlag(@"QV_AgeGate_Blocked");
+  start();
+  EXPECT_TRUE([refusal() isKindOfClass:[QV_AgeGateRefusedViewController class]]);
+}
+
+INSTANTIATE_TEST_SUITE_P(Presentation, UIKitRefusal, testing::Bool(),
+                         [](const auto& info) { return info.param ? "Strict" : "Lenient"; });
+
 TEST_F(UIKitAgeGate, PinsTheRefusalToTheLookOfTheMoment) {
   standin::setUserInterfaceStyle(UIUserInterfaceStyleDark);
   start();
   pick(gate(), 1700000000);
-  confirm(gate());
+  confirmAndWait(gate());
   EXPECT_EQ(refusal().overrideUserInterfaceStyle, UIUserInterfaceStyleDark);
 }
 
@@ -107,7 +137,7 @@ TEST_F(UIKitAgeGate, NeitherPinsNorLocksTheRefusalBeforeSystem13) {
   start();
   pick(gate(), 1700000000);
   lines();
-  confirm(gate());
+  confirmAndWait(gate());
   EXPECT_EQ(lines()[3],
             "home presentViewController:QV_AgeGateRefusedViewController animated:1 completion:nil");
 }
@@ -194,6 +224,7 @@ TEST_F(UIKitAgeGate, KeepsTheHostsScreenAndItsBlocksAsLongAsItLives) {
                                                  colorTheme:makeTheme()
                                                 privacyLink:@""
                                          termsOfServiceLink:@""];
+    standin::finishTransitions();
     screen = gate();
     weakHome = home;
     weakOwner = owner;

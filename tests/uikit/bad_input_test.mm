@@ -168,6 +168,7 @@ TEST_F(BadInputOfTheAgeGate, AContactHandlerMayLetGoOfTheRefusal) {
                                                  colorTheme:makeTheme()
                                                 privacyLink:@""
                                          termsOfServiceLink:@""];
+    standin::finishTransitions();
     screen = refusal();
     EXPECT_TRUE(standin::tapLink([screen contact], 38));
   }

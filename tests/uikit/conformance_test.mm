@@ -1,13 +1,9 @@
 // The conformance suites over the iOS adapter.
 #import "qv_commons/platform/uikit/uikit_bundle.h"
-#import "qv_commons/platform/uikit/uikit_node.h"
+#import "qv_commons/platform/uikit/uikit_controller.h"
 #import "qv_commons/platform/uikit/uikit_platform.h"
 
-#include "tests/conformance/bundle_resources_conformance.h"
-#include "tests/conformance/calendar_conformance.h"
-#include "tests/conformance/screens_conformance.h"
 #include "tests/conformance/suites.h"
-#include "tests/conformance/user_defaults_conformance.h"
 #import "tests/uikit/age_gate_fixture.h"
 #import "tests/uikit/folder_bundles.h"
 
@@ -34,6 +30,10 @@ class UIKitAdapter final : public Adapter {
 
   const Platform& platform() override { return platform_; }
 
+  void addToMainBundle(const std::string& name, const std::string& bytes) override {
+    bundles_.addToMainBundle(name, bytes);
+  }
+
   FileLocation makeFile(const std::string& bytes) override {
     return bundles_.addToMainBundle("file", bytes);
   }
@@ -55,13 +55,20 @@ class UIKitAdapter final : public Adapter {
     return opened;
   }
 
+  bool nextStartReads(const char* key) override {
+    return [NSUserDefaults.standardUserDefaults boolForKey:@(key)];
+  }
+
   std::shared_ptr<ViewController> makeScreen() override {
     return retainedViewController(standin::makeViewController(@"screen"));
   }
-  std::shared_ptr<ViewController> makeRootScreen() override { return root_ = makeScreen(); }
+  std::shared_ptr<ViewController> makeRootScreen() override {
+    root_ = standin::makeViewController(@"root");
+    return retainedViewController(root_);
+  }
   bool isOnScreen(ViewController& controller) override {
-    return &controller == root_.get() ||
-           toUIViewController(&controller).presentingViewController != nil;
+    UIViewController* native = toUIViewController(&controller);
+    return native == root_ || native.presentingViewController != nil;
   }
   std::function<bool()> watch(const std::shared_ptr<ViewController>& screen) override {
     __weak UIViewController* observed = toUIViewController(screen.get());
@@ -81,6 +88,21 @@ class UIKitAdapter final : public Adapter {
   }
   void tap(AlertController& alert, std::size_t button) override {
     standin::tap(static_cast<UIAlertController*>(toUIViewController(&alert)).actions[button]);
+  }
+  bool pick(Instant birth) override {
+    UIDatePicker* picker = [static_cast<::QV_AgeGateViewController*>(top()) datePicker];
+    picker.date = [NSDate dateWithTimeIntervalSince1970:secondsSince1970(birth)];
+    [picker sendActionsForControlEvents:UIControlEventValueChanged];
+    return true;
+  }
+  bool tapConfirm() override {
+    UIButton* button = [static_cast<::QV_AgeGateViewController*>(top()) confirmBtn];
+    const bool enabled = button.enabled;
+    [button sendActionsForControlEvents:UIControlEventTouchUpInside];
+    return enabled;
+  }
+  bool tapContactLink() override {
+    return standin::tapLink([static_cast<::QV_AgeGateRefusedViewController*>(top()) contact], 38);
   }
   ShownMessage shown(MailComposer& composer) override {
     const standin::Mail& mail = standin::mailOf(native(composer));
@@ -102,9 +124,11 @@ class UIKitAdapter final : public Adapter {
     return static_cast<MFMailComposeViewController*>(toUIViewController(&composer));
   }
 
+  UIViewController* top() const { return root_.presentedViewController; }
+
   FolderBundles bundles_;
   const Platform platform_ = bundles_.over(uikit::platform());
-  std::shared_ptr<ViewController> root_;
+  UIViewController* root_ = nil;
 };
 
 std::unique_ptr<Adapter> makeUIKitAdapter() {
@@ -115,53 +139,3 @@ QV_RUN_ALL_SUITES(UIKit, makeUIKitAdapter);
 
 }  // namespace
 }  // namespace qv_commons::conformance
-
-namespace qv_commons::test {
-namespace {
-
-class UIKit {
- public:
-  const Platform& platform() { return uikit::platform(); }
-  UserDefaults& userDefaults() { return platform().userDefaults; }
-  bool nextStartReads(const char* key) {
-    return [NSUserDefaults.standardUserDefaults boolForKey:@(key)];
-  }
-  Calendar& calendar() { return platform().calendar; }
-  Bundles& bundles() { return bundles_; }
-  Files& files() { return platform().files; }
-  void addToMainBundle(const std::string& name, const std::string& bytes) {
-    bundles_.addToMainBundle(name, bytes);
-  }
-
-  std::shared_ptr<ViewController> makeHost() { return uikit::retainedViewController(home_); }
-  bool pick(double birth) {
-    top().datePicker.date = [NSDate dateWithTimeIntervalSince1970:birth];
-    [top().datePicker sendActionsForControlEvents:UIControlEventValueChanged];
-    return true;
-  }
-  bool tapConfirm() {
-    const bool enabled = top().confirmBtn.enabled;
-    [top().confirmBtn sendActionsForControlEvents:UIControlEventTouchUpInside];
-    return enabled;
-  }
-  bool tapContactLink() {
-    id refusal = home_.presentedViewController;
-    return standin::tapLink([refusal contact], 38);
-  }
-
- private:
-  ::QV_AgeGateViewController* top() {
-    return static_cast<::QV_AgeGateViewController*>(home_.presentedViewController);
-  }
-
-  UIViewController* home_ = standin::makeViewController(@"home");
-  FolderBundles bundles_;
-};
-
-INSTANTIATE_TYPED_TEST_SUITE_P(OfUIKit, UserDefaultsConformance, UIKit);
-INSTANTIATE_TYPED_TEST_SUITE_P(OfUIKit, CalendarConformance, UIKit);
-INSTANTIATE_TYPED_TEST_SUITE_P(OfUIKit, BundleResourcesConformance, UIKit);
-INSTANTIATE_TYPED_TEST_SUITE_P(OfUIKit, ScreensConformance, UIKit);
-
-}  // namespace
-}  // namespace qv_commons::test

@@ -36,23 +36,20 @@ class FolderBundles final : public qv_commons::Bundles {
       const qv_commons::FileLocation& location) const override {
     return qv_commons::uikit::UIKitBundles().bundleWithURL(location);
   }
+  qv_commons::FileContents read(const qv_commons::FileLocation& location) const override {
+    return qv_commons::uikit::UIKitBundles().read(location);
+  }
 
   // The adapter's platform with these bundles in place of its own.
   qv_commons::Platform over(const qv_commons::Platform& adapter) {
     return {.bundles = *this,
-            .files = adapter.files,
             .console = adapter.console,
             .device = adapter.device,
-            .languages = adapter.languages,
-            .screen = adapter.screen,
-            .systemVersion = adapter.systemVersion,
             .clock = adapter.clock,
             .calendar = adapter.calendar,
             .userDefaults = adapter.userDefaults,
             .application = adapter.application,
-            .mailComposers = adapter.mailComposers,
-            .alerts = adapter.alerts,
-            .layoutLoader = adapter.layoutLoader};
+            .viewControllers = adapter.viewControllers};
   }
 
   void writeInfo(const std::map<std::string, qv_commons::InfoDictionaryValue>& info,

@@ -22,6 +22,7 @@ class SupportTest : public UIKitTest {
                               openingMessage:nil
                           additionalMetadata:nil
                                     delegate:delegate];
+    standin::finishTransitions();
   }
 
   static void finish(MFMailComposeViewController* composer) {

@@ -4,7 +4,7 @@
 #import "qv_commons/platform/uikit/QV_AgeGateColorTheme_Core.h"
 #import "qv_commons/platform/uikit/blocks.h"
 #import "qv_commons/platform/uikit/text.h"
-#import "qv_commons/platform/uikit/uikit_node.h"
+#import "qv_commons/platform/uikit/uikit_controller.h"
 
 namespace {
 

@@ -1,14 +1,17 @@
 #import "qv_commons/platform/uikit/QV_AgeGateRefusedViewController.h"
 
 #include "qv_commons/age_gate/age_gate_refused_view_controller.h"
-#import "qv_commons/platform/uikit/uikit_node.h"
+#include "qv_commons/platform/platform.h"
+#import "qv_commons/platform/uikit/uikit_controller.h"
 #import "qv_commons/platform/uikit/uikit_text_view.h"
 
 @implementation QV_AgeGateRefusedViewController
 
-+ (std::unique_ptr<qv_commons::LayoutScreen>)screenFor:(qv_commons::NativeViewController&)native {
-  return std::make_unique<qv_commons::QV_AgeGateRefusedViewController>(
-      native, qv_commons::currentPlatform());
++ (qv_commons::LayoutScreenFactory)screenFactory {
+  return [](std::unique_ptr<qv_commons::ViewController> native) {
+    return std::make_shared<qv_commons::QV_AgeGateRefusedViewController>(
+        std::move(native), qv_commons::currentPlatform());
+  };
 }
 
 - (UIView*)bg {

@@ -1,13 +1,16 @@
 #import "qv_commons/platform/uikit/QV_AgeGateViewController.h"
 
 #include "qv_commons/age_gate/age_gate_view_controller.h"
+#include "qv_commons/platform/platform.h"
 #include "qv_commons/platform/uikit/availability.h"
 
 @implementation QV_AgeGateViewController
 
-+ (std::unique_ptr<qv_commons::LayoutScreen>)screenFor:(qv_commons::NativeViewController&)native {
-  return std::make_unique<qv_commons::QV_AgeGateViewController>(native,
-                                                                qv_commons::currentPlatform());
++ (qv_commons::LayoutScreenFactory)screenFactory {
+  return [](std::unique_ptr<qv_commons::ViewController> native) {
+    return std::make_shared<qv_commons::QV_AgeGateViewController>(std::move(native),
+                                                                  qv_commons::currentPlatform());
+  };
 }
 
 - (UIView*)bg {

@@ -3,10 +3,10 @@
 #include <utility>
 
 #include "qv_commons/platform/fatal_error.h"
-#import "qv_commons/platform/uikit/attachment.h"
+#import "qv_commons/platform/uikit/associated_object.h"
 #import "qv_commons/platform/uikit/text.h"
+#import "qv_commons/platform/uikit/uikit_controller.h"
 #import "qv_commons/platform/uikit/uikit_mail.h"
-#import "qv_commons/platform/uikit/uikit_node.h"
 #include "qv_commons/support/support_helper.h"
 
 namespace {
@@ -23,15 +23,15 @@ class Delegate final : public qv_commons::QV_SupportHelperDelegate {
   __weak id<QV_SupportHelperDelegate> delegate_;
 };
 
-// The C++ side of a delegate: found again, or made and attached. Null for nil.
+// The C++ side of a delegate: found again, or made and associated. Null for nil.
 std::shared_ptr<Delegate> toDelegate(id<QV_SupportHelperDelegate> delegate) {
   using namespace qv_commons::uikit;
   if (delegate == nil) return nullptr;
-  if (std::shared_ptr<void> attached = attachmentOf(delegate, &kDelegateKey)) {
-    return std::static_pointer_cast<Delegate>(std::move(attached));
+  if (std::shared_ptr<void> found = associatedObject(delegate, &kDelegateKey)) {
+    return std::static_pointer_cast<Delegate>(std::move(found));
   }
   const auto made = std::make_shared<Delegate>(delegate);
-  attach(delegate, &kDelegateKey, made);
+  associate(delegate, &kDelegateKey, made);
   return made;
 }
 

@@ -1,12 +1,12 @@
 #import "qv_commons/platform/uikit/include/QV_Commons_iOS/QV_ViewControllerHelper.h"
 
-#import "qv_commons/platform/uikit/uikit_links.h"
+#import "qv_commons/platform/uikit/uikit_relations.h"
 #include "qv_commons/view_utils/top_view_controller.h"
 
 @implementation QV_ViewControllerHelper
 
 + (UIViewController*)topViewControllerWithController:(UIViewController*)controller {
-  return qv_commons::topViewControllerFrom(controller, qv_commons::uikit::UIKitLinks());
+  return qv_commons::topViewControllerFrom(controller, qv_commons::uikit::UIKitRelations());
 }
 
 @end

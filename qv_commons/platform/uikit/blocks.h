@@ -1,6 +1,7 @@
 // Closures on their way between the platform and the library. A null block is an absent closure.
 #pragma once
 
+#import <Foundation/Foundation.h>
 #include <functional>
 
 #include "qv_commons/platform/view_controller.h"

@@ -17,7 +17,7 @@
 #import <UIKit/UIKit.h>
 #include <memory>
 
-#include "qv_commons/platform/layout_loader.h"
+#include "qv_commons/platform/layout_screen.h"
 
 NS_ASSUME_NONNULL_BEGIN
 
@@ -32,7 +32,7 @@ NS_ASSUME_NONNULL_BEGIN
 - (nullable instancetype)initWithCoder:(NSCoder*)coder NS_DESIGNATED_INITIALIZER;
 
 // Makes the class's own C++ screen, with its defaults. A derived class overrides it.
-+ (std::unique_ptr<qv_commons::LayoutScreen>)screenFor:(qv_commons::NativeViewController&)native;
++ (qv_commons::LayoutScreenFactory)screenFactory;
 
 @property(nonatomic, readonly) qv_commons::LayoutScreen& screen;
 
@@ -47,14 +47,3 @@ NS_ASSUME_NONNULL_BEGIN
 @end
 
 NS_ASSUME_NONNULL_END
-
-namespace qv_commons::uikit {
-
-class UIKitLayoutLoader final : public LayoutLoader {
- public:
-  std::shared_ptr<LayoutScreen> initWithNibName(std::string_view name,
-                                                std::shared_ptr<Bundle> bundle,
-                                                const LayoutScreenFactory& make) override;
-};
-
-}  // namespace qv_commons::uikit

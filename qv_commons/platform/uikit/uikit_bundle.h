@@ -4,7 +4,6 @@
 #import <Foundation/Foundation.h>
 
 #include "qv_commons/platform/bundle.h"
-#include "qv_commons/platform/files.h"
 
 namespace qv_commons::uikit {
 
@@ -29,10 +28,6 @@ class UIKitBundles final : public Bundles {
   const Bundle& mainBundle() const override;
   const Bundle& libraryBundle() const override;
   std::shared_ptr<Bundle> bundleWithURL(const FileLocation& location) const override;
-};
-
-class UIKitFiles final : public Files {
- public:
   FileContents read(const FileLocation& location) const override;
 };
 

@@ -62,7 +62,7 @@ std::shared_ptr<Bundle> UIKitBundles::bundleWithURL(const FileLocation& location
   return bundle == nil ? nullptr : std::make_shared<UIKitBundle>(bundle);
 }
 
-FileContents UIKitFiles::read(const FileLocation& location) const {
+FileContents UIKitBundles::read(const FileLocation& location) const {
   NSError* error = nil;
   NSData* data = [[NSData alloc] initWithContentsOfURL:toNSURL(location) options:0 error:&error];
   if (data == nil) return {std::nullopt, toString(error.localizedDescription)};

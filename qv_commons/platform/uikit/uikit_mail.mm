@@ -5,6 +5,8 @@
 #include <utility>
 
 #import "qv_commons/platform/uikit/text.h"
+#import "qv_commons/platform/uikit/uikit_controller.h"
+#import "qv_commons/platform/uikit/uikit_view_controllers.h"
 
 // Who composers report to where nothing of the platform's stands for the delegate.
 @interface QV_MailComposeForwarder : NSObject <MFMailComposeViewControllerDelegate> {
@@ -46,9 +48,10 @@ id<MFMailComposeViewControllerDelegate> nativeDelegateOf(const MailComposeDelega
   return found == nativeDelegates().delegates.end() ? nil : found->second;
 }
 
-class Composer final : public MailComposer {
+class Composer final : public NativeOf<MailComposer, UIKitController> {
  public:
-  using MailComposer::MailComposer;
+  explicit Composer(MFMailComposeViewController* composer)
+      : NativeOf(ViewControllerKind::navigation, composer) {}
 
   void setToRecipients(std::vector<std::string> recipients) override {
     [composer() setToRecipients:toNSArray(recipients)];
@@ -79,34 +82,16 @@ class Composer final : public MailComposer {
 
  private:
   MFMailComposeViewController* composer() const {
-    return static_cast<MFMailComposeViewController*>(toUIViewController(this));
+    return static_cast<MFMailComposeViewController*>(uiViewController());
   }
 
   QV_MailComposeForwarder* forwarder_;  // composers don't keep their delegates
 };
 
-class MailNode final : public UIKitNode {
- public:
-  using UIKitNode::UIKitNode;
-  Composer& controller() override { return composer_; }
-
- private:
-  Composer composer_{*this};
-};
-
 }  // namespace
 
-std::shared_ptr<UIKitNode> makeMailNode(MFMailComposeViewController* composer) {
-  return std::make_shared<MailNode>(composer);
-}
-
-bool UIKitMailComposers::canSendMail() const {
-  return [MFMailComposeViewController canSendMail];
-}
-
-std::shared_ptr<MailComposer> UIKitMailComposers::makeMailComposer() {
-  return std::static_pointer_cast<MailComposer>(
-      retainedViewController([[MFMailComposeViewController alloc] init]));
+std::shared_ptr<ViewController> makeComposer(MFMailComposeViewController* composer) {
+  return std::make_shared<Composer>(composer);
 }
 
 void setNativeDelegate(const MailComposeDelegate& delegate,
@@ -121,7 +106,7 @@ void setNativeDelegate(const MailComposeDelegate& delegate,
 
 void reportFinish(MailComposeDelegate& delegate, MFMailComposeViewController* composer,
                   MFMailComposeResult result, NSError* error) {
-  delegate.mailComposeController(static_cast<MailComposer&>(nodeOf(composer).controller()),
+  delegate.mailComposeController(static_cast<MailComposer&>(*toViewController(composer)),
                                  static_cast<MailComposeResult>(result),
                                  toString(error.localizedDescription));
 }

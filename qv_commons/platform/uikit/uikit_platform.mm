@@ -1,44 +1,30 @@
 #import "qv_commons/platform/uikit/uikit_platform.h"
 
-#import "qv_commons/platform/uikit/layout_view_controller.h"
-#import "qv_commons/platform/uikit/uikit_alert.h"
 #import "qv_commons/platform/uikit/uikit_bundle.h"
-#import "qv_commons/platform/uikit/uikit_mail.h"
 #import "qv_commons/platform/uikit/uikit_system.h"
+#import "qv_commons/platform/uikit/uikit_view_controllers.h"
 
 namespace qv_commons::uikit {
 namespace {
 
 struct UIKitPlatform {
   UIKitBundles bundles;
-  UIKitFiles files;
   UIKitConsole console;
   UIKitDevice device;
-  UIKitLanguages languages;
-  UIKitScreen screen;
-  UIKitSystemVersion systemVersion;
   UIKitClock clock;
   UIKitCalendar calendar;
   UIKitUserDefaults userDefaults;
   UIKitApplication application;
-  UIKitMailComposers mailComposers;
-  UIKitAlerts alerts;
-  UIKitLayoutLoader layoutLoader;
+  UIKitViewControllers viewControllers;
   const Platform references = {
       .bundles = bundles,
-      .files = files,
       .console = console,
       .device = device,
-      .languages = languages,
-      .screen = screen,
-      .systemVersion = systemVersion,
       .clock = clock,
       .calendar = calendar,
       .userDefaults = userDefaults,
       .application = application,
-      .mailComposers = mailComposers,
-      .alerts = alerts,
-      .layoutLoader = layoutLoader,
+      .viewControllers = viewControllers,
   };
 };
 

@@ -6,38 +6,24 @@
 #include "qv_commons/platform/clock.h"
 #include "qv_commons/platform/console.h"
 #include "qv_commons/platform/device.h"
-#include "qv_commons/platform/screen.h"
-#include "qv_commons/platform/system_version.h"
 #include "qv_commons/platform/user_defaults.h"
 
 namespace qv_commons::uikit {
 
 class UIKitDevice final : public Device {
  public:
-  std::string systemVersion() const override;
   std::string localizedModel() const override;
-};
-
-class UIKitLanguages final : public Languages {
- public:
-  std::vector<std::string> preferredLanguages() const override;
-};
-
-class UIKitScreen final : public Screen {
- public:
-  Size bounds() const override;
-  UserInterfaceStyle userInterfaceStyle() const override;
-};
-
-class UIKitSystemVersion final : public SystemVersion {
- public:
+  std::string systemVersion() const override;
   bool isOperatingSystemAtLeastVersion(const OperatingSystemVersion& version) const override;
+  std::vector<std::string> preferredLanguages() const override;
+  Size screenBounds() const override;
+  UserInterfaceStyle userInterfaceStyle() const override;
 };
 
 // NSDate.
 class UIKitClock final : public Clock {
  public:
-  double timeIntervalSince1970() const override;
+  Instant now() const override;
 };
 
 // The standard output, as the platform's own print statement.
@@ -49,16 +35,16 @@ class UIKitConsole final : public Console {
 // The current NSCalendar.
 class UIKitCalendar final : public Calendar {
  public:
-  std::optional<std::int64_t> yearsBetween(double from, double to) const override;
-  std::optional<double> dateByAddingYears(double date, int years) const override;
+  std::optional<std::int64_t> yearsBetween(Instant from, Instant to) const override;
+  std::optional<Instant> dateByAddingYears(Instant date, int years) const override;
 };
 
-// The standard NSUserDefaults.
+// The standard NSUserDefaults, which persist by themselves.
 class UIKitUserDefaults final : public UserDefaults {
  public:
   bool boolForKey(std::string_view key) const override;
   void setBool(bool value, std::string_view key) override;
-  void commit() override {}  // the system persists on its own
+  void commit() override {}  // the system persists by itself
 };
 
 class UIKitApplication final : public Application {

@@ -12,10 +12,11 @@ namespace qv_commons::uikit {
 namespace {
 
 // Nothing where the date is beyond what the calendar counts in: some ten thousand years.
-NSDate* toNSDate(double secondsSince1970) {
+NSDate* toNSDate(Instant instant) {
   constexpr double kFarthest = 4e11;
-  if (!(std::abs(secondsSince1970) <= kFarthest)) return nil;
-  return [NSDate dateWithTimeIntervalSince1970:secondsSince1970];
+  const double seconds = secondsSince1970(instant);
+  if (!(std::abs(seconds) <= kFarthest)) return nil;
+  return [NSDate dateWithTimeIntervalSince1970:seconds];
 }
 
 }  // namespace
@@ -28,31 +29,30 @@ std::string UIKitDevice::localizedModel() const {
   return toString(UIDevice.currentDevice.localizedModel);
 }
 
-std::vector<std::string> UIKitLanguages::preferredLanguages() const {
+std::vector<std::string> UIKitDevice::preferredLanguages() const {
   return toStrings([NSLocale preferredLanguages]);
 }
 
-Size UIKitScreen::bounds() const {
+Size UIKitDevice::screenBounds() const {
   const CGRect bounds = UIScreen.mainScreen.bounds;
   return {bounds.size.width, bounds.size.height};
 }
 
-UserInterfaceStyle UIKitScreen::userInterfaceStyle() const {
+UserInterfaceStyle UIKitDevice::userInterfaceStyle() const {
   if (QV_IOS_AVAILABLE(12.0)) {
     return static_cast<UserInterfaceStyle>(UIScreen.mainScreen.traitCollection.userInterfaceStyle);
   }
   return UserInterfaceStyle::unspecified;
 }
 
-bool UIKitSystemVersion::isOperatingSystemAtLeastVersion(
-    const OperatingSystemVersion& version) const {
+bool UIKitDevice::isOperatingSystemAtLeastVersion(const OperatingSystemVersion& version) const {
   const NSOperatingSystemVersion asked = {version.majorVersion, version.minorVersion,
                                           version.patchVersion};
   return [NSProcessInfo.processInfo isOperatingSystemAtLeastVersion:asked];
 }
 
-double UIKitClock::timeIntervalSince1970() const {
-  return [NSDate date].timeIntervalSince1970;
+Instant UIKitClock::now() const {
+  return instantAt([NSDate date].timeIntervalSince1970);
 }
 
 void UIKitConsole::print(std::string_view line) {
@@ -61,7 +61,7 @@ void UIKitConsole::print(std::string_view line) {
   std::fflush(stdout);
 }
 
-std::optional<std::int64_t> UIKitCalendar::yearsBetween(double from, double to) const {
+std::optional<std::int64_t> UIKitCalendar::yearsBetween(Instant from, Instant to) const {
   NSDate* start = toNSDate(from);
   NSDate* end = toNSDate(to);
   if (start == nil || end == nil) return std::nullopt;
@@ -72,14 +72,14 @@ std::optional<std::int64_t> UIKitCalendar::yearsBetween(double from, double to) 
       .year;
 }
 
-std::optional<double> UIKitCalendar::dateByAddingYears(double date, int years) const {
+std::optional<Instant> UIKitCalendar::dateByAddingYears(Instant date, int years) const {
   NSDate* start = toNSDate(date);
   if (start == nil) return std::nullopt;
   NSDateComponents* added = [NSDateComponents new];
   added.year = years;
   NSDate* sum = [NSCalendar.currentCalendar dateByAddingComponents:added toDate:start options:0];
   if (sum == nil) return std::nullopt;
-  return sum.timeIntervalSince1970;
+  return instantAt(sum.timeIntervalSince1970);
 }
 
 bool UIKitUserDefaults::boolForKey(std::string_view key) const {
@@ -100,7 +100,7 @@ void UIKitApplication::openURL(const URL& url) {
 bool systemIsAtLeast(const char* version) {
   OperatingSystemVersion asked;
   std::sscanf(version, "%d.%d", &asked.majorVersion, &asked.minorVersion);
-  return UIKitSystemVersion().isOperatingSystemAtLeastVersion(asked);
+  return UIKitDevice().isOperatingSystemAtLeastVersion(asked);
 }
 #endif
 

@@ -1,8 +1,8 @@
 #import "qv_commons/platform/uikit/uikit_text_view.h"
 
-#include "qv_commons/platform/layout_loader.h"
+#include "qv_commons/platform/layout_screen.h"
 #import "qv_commons/platform/uikit/text.h"
-#import "qv_commons/platform/uikit/uikit_node.h"
+#import "qv_commons/platform/uikit/uikit_controller.h"
 #import "qv_commons/platform/uikit/view_over.h"
 
 // Whom a text view asks where the delegate is no screen.

@@ -8,8 +8,8 @@
 
 namespace qv_commons::uikit {
 
-// The C++ side of a view, a Label for a UILabel and so on: found again, or made and attached. Lives
-// as long as the view does. Null for nil.
+// The C++ side of a view, a Label for a UILabel and so on: found again, or made and associated.
+// Lives as long as the view does. Null for nil.
 std::shared_ptr<View> toView(UIView* view);
 
 // nil for null.

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#import "qv_commons/platform/uikit/attachment.h"
+#import "qv_commons/platform/uikit/associated_object.h"
 #import "qv_commons/platform/uikit/text.h"
 #import "qv_commons/platform/uikit/uikit_text_view.h"
 #import "qv_commons/platform/uikit/view_over.h"
@@ -37,11 +37,16 @@ class DatePickerView final : public ViewOver<DatePicker, UIDatePicker> {
  public:
   using ViewOver::ViewOver;
 
-  void setMaximumDate(std::optional<double> date) override {
-    view().maximumDate = date ? [NSDate dateWithTimeIntervalSince1970:*date] : nil;
+  void setMaximumDate(std::optional<Instant> date) override {
+    view().maximumDate = date ? toNSDate(*date) : nil;
   }
-  void setDate(double date) override { view().date = [NSDate dateWithTimeIntervalSince1970:date]; }
-  double date() const override { return view().date.timeIntervalSince1970; }
+  void setDate(Instant date) override { view().date = toNSDate(date); }
+  Instant date() const override { return instantAt(view().date.timeIntervalSince1970); }
+
+ private:
+  static NSDate* toNSDate(Instant instant) {
+    return [NSDate dateWithTimeIntervalSince1970:secondsSince1970(instant)];
+  }
 };
 
 std::shared_ptr<View> makeView(UIView* view) {
@@ -64,11 +69,11 @@ std::shared_ptr<View> makeView(UIView* view) {
 
 std::shared_ptr<View> toView(UIView* view) {
   if (view == nil) return nullptr;
-  if (std::shared_ptr<void> attached = attachmentOf(view, &kViewKey)) {
-    return std::static_pointer_cast<View>(std::move(attached));
+  if (std::shared_ptr<void> found = associatedObject(view, &kViewKey)) {
+    return std::static_pointer_cast<View>(std::move(found));
   }
   std::shared_ptr<View> made = makeView(view);
-  attach(view, &kViewKey, made);
+  associate(view, &kViewKey, made);
   return made;
 }
 

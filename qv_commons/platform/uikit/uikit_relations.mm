@@ -1,8 +1,8 @@
-#import "qv_commons/platform/uikit/uikit_links.h"
+#import "qv_commons/platform/uikit/uikit_relations.h"
 
 namespace qv_commons::uikit {
 
-ViewControllerKind UIKitLinks::kind(UIViewController* controller) {
+ViewControllerKind UIKitRelations::kind(UIViewController* controller) {
   if ([controller isKindOfClass:[UINavigationController class]]) {
     return ViewControllerKind::navigation;
   }
@@ -11,7 +11,7 @@ ViewControllerKind UIKitLinks::kind(UIViewController* controller) {
   return ViewControllerKind::plain;
 }
 
-UIViewController* UIKitLinks::child(UIViewController* controller) {
+UIViewController* UIKitRelations::child(UIViewController* controller) {
   switch (kind(controller)) {
     case ViewControllerKind::navigation:
       return static_cast<UINavigationController*>(controller).visibleViewController;

@@ -7,7 +7,7 @@
 
 namespace qv_commons::uikit {
 
-struct UIKitLinks {
+struct UIKitRelations {
   using Controller = UIViewController*;
 
   static ViewControllerKind kind(UIViewController* controller);

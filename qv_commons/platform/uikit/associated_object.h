@@ -9,13 +9,13 @@
 
 namespace qv_commons::uikit {
 
-// What is attached to `owner` under `key`, an address of its own; null where nothing is.
-std::shared_ptr<void> attachmentOf(id owner, const void* key);
+// What is associated with `owner` under `key`, an address of its own; null if nothing is.
+std::shared_ptr<void> associatedObject(id owner, const void* key);
 
-// Replaces what was attached under `key`.
-void attach(id owner, const void* key, std::shared_ptr<void> attachment);
+// Replaces what was associated under `key`.
+void associate(id owner, const void* key, std::shared_ptr<void> object);
 
-// A reference to `object`, which is attached to `owner`, that keeps `owner` alive.
+// A reference to `object`, which belongs to `owner`, that keeps `owner` alive.
 template <class T>
 std::shared_ptr<T> retaining(id owner, T& object) {
   // Set free by the last strong reference; weak ones keep the deleter, and must not keep the owner.

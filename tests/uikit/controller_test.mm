@@ -1,8 +1,9 @@
 // The C++ sides of UIKit's objects: found again, owned by them, and keeping nothing alive.
 #import "qv_commons/platform/uikit/QV_AgeGateViewController.h"
-#import "qv_commons/platform/uikit/uikit_node.h"
+#import "qv_commons/platform/uikit/uikit_controller.h"
 #import "qv_commons/platform/uikit/uikit_platform.h"
 #import "qv_commons/platform/uikit/uikit_views.h"
+#include "qv_commons/platform/view_controllers.h"
 #include "qv_commons/support/support_helper.h"
 #include "qv_commons/view_utils/view_controller_helper.h"
 
@@ -16,15 +17,15 @@ using qv_commons::uikit::toViewController;
 
 namespace {
 
-class UIKitNodes : public UIKitTest {};
+class UIKitControllers : public UIKitTest {};
 
-TEST_F(UIKitNodes, AreFoundAgainForTheSameController) {
+TEST_F(UIKitControllers, AreFoundAgainForTheSameController) {
   EXPECT_EQ(toViewController(home), toViewController(home));
   EXPECT_EQ(toUIViewController(toViewController(home)), home);
   EXPECT_NE(toViewController(home), toViewController(standin::makeViewController(@"other")));
 }
 
-TEST_F(UIKitNodes, AreNullForNil) {
+TEST_F(UIKitControllers, AreNullForNil) {
   EXPECT_EQ(toViewController(nil), nullptr);
   EXPECT_EQ(retainedViewController(nil), nullptr);
   EXPECT_OBJECT(toUIViewController(nullptr), nil);
@@ -32,7 +33,7 @@ TEST_F(UIKitNodes, AreNullForNil) {
   EXPECT_OBJECT(toUIView(nullptr), nil);
 }
 
-TEST_F(UIKitNodes, KeepTheirControllerAliveOnlyWhereTheyAreRetained) {
+TEST_F(UIKitControllers, KeepTheirControllerAliveOnlyWhereTheyAreRetained) {
   __weak UIViewController* weak;
   std::shared_ptr<qv_commons::ViewController> retained;
   @autoreleasepool {
@@ -49,7 +50,7 @@ TEST_F(UIKitNodes, KeepTheirControllerAliveOnlyWhereTheyAreRetained) {
   EXPECT_OBJECT(weak, nil);
 }
 
-TEST_F(UIKitNodes, DoNotKeepTheirControllerForThoseWhoOnlyObserve) {
+TEST_F(UIKitControllers, DoNotKeepTheirControllerForThoseWhoOnlyObserve) {
   __weak UIViewController* weak;
   std::weak_ptr<qv_commons::ViewController> observer;
   @autoreleasepool {
@@ -61,7 +62,7 @@ TEST_F(UIKitNodes, DoNotKeepTheirControllerForThoseWhoOnlyObserve) {
   EXPECT_OBJECT(weak, nil);
 }
 
-TEST_F(UIKitNodes, TellTheKindOfControllersThatTheLibraryDidNotMake) {
+TEST_F(UIKitControllers, TellTheKindOfControllersThatTheLibraryDidNotMake) {
   using qv_commons::ViewControllerKind;
   const auto kindOf = [](UIViewController* controller) {
     return toViewController(controller)->kind();
@@ -73,7 +74,7 @@ TEST_F(UIKitNodes, TellTheKindOfControllersThatTheLibraryDidNotMake) {
   EXPECT_EQ(kindOf([UIAlertController new]), ViewControllerKind::alert);
 }
 
-TEST_F(UIKitNodes, AreWalkedByTheLibrarysOwnLookUpToo) {
+TEST_F(UIKitControllers, AreWalkedByTheLibrarysOwnLookUpToo) {
   UIViewController* page = standin::makeViewController(@"page");
   UINavigationController* navigation = [UINavigationController new];
   navigation.viewControllers = @[ page ];
@@ -82,7 +83,7 @@ TEST_F(UIKitNodes, AreWalkedByTheLibrarysOwnLookUpToo) {
             toViewController(page));
 }
 
-TEST_F(UIKitNodes, GiveViewsTheClassThatTheyHave) {
+TEST_F(UIKitControllers, GiveViewsTheClassThatTheyHave) {
   const auto is = [](UIView* view, auto* type) {
     return dynamic_cast<decltype(type)>(toView(view).get()) != nullptr;
   };
@@ -93,7 +94,7 @@ TEST_F(UIKitNodes, GiveViewsTheClassThatTheyHave) {
   EXPECT_FALSE(is([UIView new], static_cast<qv_commons::Label*>(nullptr)));
 }
 
-TEST_F(UIKitNodes, GoWithTheirViewAndAreFoundAgainUntilThen) {
+TEST_F(UIKitControllers, GoWithTheirViewAndAreFoundAgainUntilThen) {
   std::weak_ptr<qv_commons::View> weak;
   @autoreleasepool {
     UIView* view = [UILabel new];
@@ -118,7 +119,7 @@ struct Asked final : qv_commons::TextViewDelegate {
   qv_commons::TextRange askedAt;
 };
 
-TEST_F(UIKitNodes, LetTextViewsAskAnyDelegate) {
+TEST_F(UIKitControllers, LetTextViewsAskAnyDelegate) {
   UITextView* native = [UITextView new];
   native.text = @"see here";
   native.editable = NO;
@@ -140,7 +141,7 @@ TEST_F(UIKitNodes, LetTextViewsAskAnyDelegate) {
   EXPECT_OBJECT(native.delegate, nil);
 }
 
-TEST_F(UIKitNodes, ServeAHostInCppWithoutAnyObjectiveC) {
+TEST_F(UIKitControllers, ServeAHostInCppWithoutAnyObjectiveC) {
   struct Host final : qv_commons::QV_SupportHelperDelegate {
     void onCompletion() override { ++completions; }
     int completions = 0;
@@ -157,17 +158,18 @@ TEST_F(UIKitNodes, ServeAHostInCppWithoutAnyObjectiveC) {
   EXPECT_EQ(host->completions, 1);
 }
 
-TEST_F(UIKitNodes, AreThePlatformThatIsInstalledWhenTheAppIsLoaded) {
+TEST_F(UIKitControllers, AreThePlatformThatIsInstalledWhenTheAppIsLoaded) {
   EXPECT_EQ(&qv_commons::currentPlatform(), &qv_commons::uikit::platform());
 }
 
-TEST_F(UIKitNodes, DieOfALayoutWhoseNameNoScreenBears) {
+TEST_F(UIKitControllers, DieOfALayoutWhoseNameNoScreenBears) {
   const auto load = [](const char* name) {
-    qv_commons::currentPlatform().layoutLoader.initWithNibName(
-        name, nullptr, [](qv_commons::NativeViewController&) { return nullptr; });
+    qv_commons::currentPlatform().viewControllers.initWithNibName(
+        name, nullptr, [](std::unique_ptr<qv_commons::ViewController>) { return nullptr; });
   };
-  EXPECT_DEATH(load("NoSuchScreen"), "LayoutLoader: no screen class .* NoSuchScreen");
-  EXPECT_DEATH(load("UIViewController"), "LayoutLoader: no screen class .* UIViewController");
+  EXPECT_DEATH(load("NoSuchScreen"), "no screen class has the name of the layout NoSuchScreen");
+  EXPECT_DEATH(load("UIViewController"),
+               "no screen class has the name of the layout UIViewController");
 }
 
 }  // namespace
