@@ -69,7 +69,8 @@ void pick(Stage& stage, QWidget& gate, const QDate& date) {
   turn(DateField::year, date.year());
   turn(DateField::month, date.month());
   turn(DateField::day, date.day());
-  const QDate picked = QDateTime::fromSecsSinceEpoch(static_cast<qint64>(picker->date())).date();
+  const auto seconds = static_cast<qint64>(qv_commons::secondsSince1970(picker->date()));
+  const QDate picked = QDateTime::fromSecsSinceEpoch(seconds).date();
   stage.note("picked: " + picked.toString(Qt::ISODate) +
              (picked == date ? "" : ", the wheels do not reach " + date.toString(Qt::ISODate)));
 }

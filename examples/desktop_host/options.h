@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "qv_commons/platform/system_version.h"
+#include "qv_commons/platform/device.h"
 #include "qv_commons/platform/user_interface_style.h"
 
 namespace host {

@@ -5,7 +5,10 @@
 #include <QTabBar>
 #include <QVBoxLayout>
 
+#include "qv_commons/platform/application.h"
 #include "qv_commons/platform/desktop/desktop_search_bar.h"
+#include "qv_commons/platform/platform.h"
+#include "qv_commons/platform/view_controllers.h"
 #include "qv_commons/qv_commons.h"
 
 #include "examples/desktop_host/host_window.h"
@@ -128,7 +131,7 @@ QTabWidget* makeTopControllerPage(const desktop::DesktopPlatform& desktop, QStac
                   "text"));
     column->addWidget(makeButton("showAlert", "Show an alert", [tab, &desktop, &window, say] {
       const auto page = desktop.viewController(*tab);
-      auto alert = currentPlatform().alerts.makeAlertController(
+      auto alert = currentPlatform().viewControllers.makeAlertController(
           "An alert", "The page below it is what counts.", AlertStyle::alert);
       alert->addAction("OK", AlertActionStyle::standard, nullptr);
       page->presentViewController(std::move(alert), true, [tab, page, &desktop, &window, say] {
@@ -152,9 +155,9 @@ QWidget* makeSearchPage(const Say& say) {
   column->addWidget(bar);
   column->addWidget(makeLabel("The button reaches the bar's own text field.", "text"));
   column->addWidget(makeButton("fillIn", "Fill in “birthday”", [bar, say] {
-    TextField* field = bar->qv_searchTextField_all_iOS_versions();
+    QLineEdit* field = qv_searchTextField_all_iOS_versions(*bar);
     field->setText("birthday");
-    say("The field holds “" + toQt(field->text()) + "”.");
+    say("The field holds “" + field->text() + "”.");
   }));
   column->addStretch();
   return page;

@@ -15,7 +15,7 @@ Session::Session(desktop::DesktopSettings settings, Device device, std::int64_t 
       minimumAge_(minimumAge),
       window_(std::make_unique<HostWindow>(
           QString::fromStdString(QV_AppInfoHelper::appName()),
-          currentPlatform().screen.userInterfaceStyle() == UserInterfaceStyle::dark)),
+          currentPlatform().device.userInterfaceStyle() == UserInterfaceStyle::dark)),
       home_(desktop_.viewController(*window_)),
       support_(std::make_shared<SupportObserver>(*window_)) {
   addServices();

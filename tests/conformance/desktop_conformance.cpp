@@ -1,9 +1,16 @@
+#include <QAbstractButton>
+#include <QDateTime>
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QTest>
+#include <QTextBrowser>
+#include <QTimeZone>
 #include <optional>
 #include <sstream>
+
+#include "qv_commons/platform/desktop/wheel.h"
 
 #include "tests/conformance/suites.h"
 #include "tests/desktop/desktop_driver.h"
@@ -54,6 +61,11 @@ class DesktopAdapter final : public Adapter {
 
   const Platform& platform() override { return desktop().platform(); }
 
+  void addToMainBundle(const std::string& name, const std::string& bytes) override {
+    folder_.write("bundle/" + name, bytes);
+    settings_.bundleDirectory = folder_.path("bundle");
+  }
+
   FileLocation makeFile(const std::string& bytes) override { return folder_.write("file", bytes); }
   FileLocation makeFolder() override { return makeDirectory("folder"); }
   FileLocation missingFile() override { return folder_.path("missing"); }
@@ -72,6 +84,11 @@ class DesktopAdapter final : public Adapter {
     return browser.urls();
   }
 
+  bool nextStartReads(const char* key) override {
+    desktop();  // makes the settings complete
+    return desktop::DesktopPlatform(settings_).platform().userDefaults.boolForKey(key);
+  }
+
   std::shared_ptr<ViewController> makeScreen() override {
     QWidget& window = *windows_.emplace_back(std::make_unique<QWidget>());
     window.resize(375, 667);
@@ -79,6 +96,7 @@ class DesktopAdapter final : public Adapter {
   }
   std::shared_ptr<ViewController> makeRootScreen() override {
     std::shared_ptr<ViewController> root = makeScreen();
+    root_ = root;
     desktop::windowOf(*root).show();
     return root;
   }
@@ -89,6 +107,32 @@ class DesktopAdapter final : public Adapter {
   void tap(AlertController& alert, std::size_t button) override {
     desktop::click(alert, ("action" + std::to_string(button)).c_str());
   }
+
+  // As far as the wheels go, which leave the time of day alone.
+  bool pick(Instant birth) override {
+    const auto seconds = static_cast<qint64>(secondsSince1970(birth));
+    const QDate date = QDateTime::fromSecsSinceEpoch(seconds, QTimeZone::utc()).date();
+    return turn(desktop::DateField::year, date.year()) &&
+           turn(desktop::DateField::month, date.month()) &&
+           turn(desktop::DateField::day, date.day());
+  }
+  bool tapConfirm() override {
+    auto* button = onTop<QAbstractButton>("confirmBtn");
+    if (button == nullptr || !button->isEnabled()) return false;
+    desktop::click(*button);
+    return true;
+  }
+  bool tapContactLink() override {
+    auto* contact = onTop<QTextBrowser>("contact");
+    if (contact == nullptr) return false;
+    QTextCursor cursor(contact->document());
+    cursor.setPosition(45);  // in the middle of the link
+    const QPoint place = contact->cursorRect(cursor).center();
+    QTest::mouseClick(contact->window()->windowHandle(), Qt::LeftButton, {},
+                      contact->viewport()->mapTo(contact->window(), place));
+    return true;
+  }
+
   ShownMessage shown(MailComposer& composer) override {
     ShownMessage shown{desktop::find<QLineEdit>(composer, "to").text().toStdString(),
                        desktop::find<QLineEdit>(composer, "subject").text().toStdString(),
@@ -108,6 +152,23 @@ class DesktopAdapter final : public Adapter {
   }
 
  private:
+  // The view of that name on the screen that the root presents, or null.
+  template <class Widget>
+  Widget* onTop(const char* name) {
+    const std::shared_ptr<ViewController> root = root_.lock();
+    ViewController* top = root == nullptr ? nullptr : root->presentedViewController();
+    return top == nullptr ? nullptr : desktop::windowOf(*top).findChild<Widget*>(name);
+  }
+
+  bool turn(desktop::DateField field, int number) {
+    auto* picker = onTop<QWidget>("datePicker");
+    if (picker == nullptr) return false;
+    for (desktop::Wheel* wheel : picker->findChildren<desktop::Wheel*>()) {
+      if (wheel->field() == field) wheel->turnToNumber(number);
+    }
+    return true;
+  }
+
   std::string makeDirectory(const std::string& name) const {
     QDir().mkpath(QString::fromStdString(folder_.path(name)));
     return folder_.path(name);
@@ -116,6 +177,7 @@ class DesktopAdapter final : public Adapter {
   desktop::DesktopPlatform& desktop() {
     if (!desktop_) {
       settings_.dataDirectory = folder_.path("data");
+      settings_.calendar = {"en-US", "UTC"};
       desktop_.emplace(settings_);
     }
     return *desktop_;
@@ -124,6 +186,7 @@ class DesktopAdapter final : public Adapter {
   desktop::TestFolder folder_;
   desktop::DesktopSettings settings_;
   std::vector<std::unique_ptr<QWidget>> windows_;
+  std::weak_ptr<ViewController> root_;
   std::optional<desktop::DesktopPlatform> desktop_;
 };
 

@@ -69,19 +69,13 @@ void AgeGateTest::restart(DesktopSettings settings) {
   desktop_ = std::make_unique<DesktopPlatform>(std::move(settings));
   const Platform& real = desktop_->platform();
   platform_ = std::make_unique<Platform>(Platform{.bundles = real.bundles,
-                                                  .files = real.files,
                                                   .console = real.console,
                                                   .device = real.device,
-                                                  .languages = real.languages,
-                                                  .screen = real.screen,
-                                                  .systemVersion = real.systemVersion,
                                                   .clock = clock_,
                                                   .calendar = real.calendar,
                                                   .userDefaults = real.userDefaults,
                                                   .application = real.application,
-                                                  .mailComposers = real.mailComposers,
-                                                  .alerts = real.alerts,
-                                                  .layoutLoader = real.layoutLoader});
+                                                  .viewControllers = real.viewControllers});
   scope_ = std::make_unique<ScopedPlatform>(*platform_);
   host_ = desktop_->viewController(*window_);
   theme_ = QV_AgeGateColorTheme::defaultTheme();

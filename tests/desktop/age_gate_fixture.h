@@ -12,20 +12,22 @@
 #include <vector>
 
 #include "qv_commons/age_gate/age_gate_color_theme.h"
+#include "qv_commons/platform/clock.h"
 #include "qv_commons/platform/desktop/desktop_platform.h"
 #include "qv_commons/platform/desktop/wheel.h"
 #include "qv_commons/platform/desktop/wheel_date_picker.h"
 #include "qv_commons/platform/platform.h"
+#include "qv_commons/platform/user_defaults.h"
 
 namespace qv_commons::desktop {
 
 // 2026-11-20 15:30:00 UTC, a Friday.
-inline constexpr double kNow = 1795188600;
+inline constexpr Instant kNow = instantAt(1795188600);
 
 class StoppedClock final : public Clock {
  public:
-  double timeIntervalSince1970() const override { return now; }
-  double now = kNow;
+  Instant now() const override { return instant; }
+  Instant instant = kNow;
 };
 
 // Takes the links that would be opened with the system.

@@ -4,7 +4,10 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTextBrowser>
+#include <functional>
 #include <gmock/gmock.h>
+#include <utility>
+#include <vector>
 
 #include "tests/desktop/age_gate_fixture.h"
 
@@ -101,13 +104,14 @@ TEST_F(AgeGateTest, AsksForNothingBeyondAYearFromNow) {
   EXPECT_EQ(wheel(*gate(), DateField::month).chosenText(), "November");
   click(wheel(*gate(), DateField::day));
   press(*gate(), Qt::Key_End);
-  EXPECT_EQ(view<WheelDatePicker>(*gate(), "datePicker").date(), kNow + 365 * 86400);
+  EXPECT_EQ(view<WheelDatePicker>(*gate(), "datePicker").date(),
+            kNow + Instant::duration(365 * 86400));
 }
 
 TEST_F(AgeGateTest, TakesAFutureDateForTheMinimum0) {
   startAgeGate(0);
   pickYear(*gate(), "2027");
-  clock_.now += 1;  // the user takes a moment
+  clock_.instant += Instant::duration(1);  // the user takes a moment
   confirm();
   EXPECT_EQ(completions_, 1);
 }

@@ -33,7 +33,7 @@ class AlertWindows : public testing::Test {
   QWidget host_;
   DesktopPlatform desktop_{{}};
   std::shared_ptr<ViewController> screen_ = desktop_.viewController(host_);
-  std::shared_ptr<AlertController> alert_ = desktop_.platform().alerts.makeAlertController(
+  std::shared_ptr<AlertController> alert_ = desktop_.platform().viewControllers.makeAlertController(
       "Error", "Fish & chips <b>", AlertStyle::alert);
   std::vector<std::string> chosen_;
 };

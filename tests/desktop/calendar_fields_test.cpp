@@ -26,9 +26,9 @@ struct Fields {
   int millisecond;
 };
 
-Fields fieldsAt(UCalendar* calendar, double date) {
+Fields fieldsAt(UCalendar* calendar, Instant date) {
   UErrorCode status = U_ZERO_ERROR;
-  ucal_setMillis(calendar, date * 1000, &status);
+  ucal_setMillis(calendar, secondsSince1970(date) * 1000, &status);
   return {ucal_get(calendar, UCAL_EXTENDED_YEAR, &status), ucal_get(calendar, UCAL_MONTH, &status),
           ucal_get(calendar, UCAL_DATE, &status),
           ucal_get(calendar, UCAL_MILLISECONDS_IN_DAY, &status)};
@@ -40,7 +40,7 @@ int lengthOfMonth(UCalendar* calendar) {
   return ucal_getLimit(calendar, UCAL_DATE, UCAL_ACTUAL_MAXIMUM, &status);
 }
 
-int yearsByFields(UCalendar* calendar, double birth, double now) {
+int yearsByFields(UCalendar* calendar, Instant birth, Instant now) {
   const Fields born = fieldsAt(calendar, birth);
   const Fields at = fieldsAt(calendar, now);
   const int day = born.month == at.month ? std::min(born.day, lengthOfMonth(calendar)) : born.day;
@@ -62,9 +62,9 @@ TEST_P(CalendarFields, GiveTheSameYears) {
   std::uniform_int_distribution<int> ages(0, 40);
   int wrong = 0;
   for (int count = 0; count < 1500; ++count) {
-    const double birth = births(generator);
-    const double birthday = calendar.dateByAddingYears(birth, ages(generator)).value();
-    const double now = std::max(birth, birthday + seconds(generator));
+    const Instant birth = instantAt(births(generator));
+    const Instant birthday = calendar.dateByAddingYears(birth, ages(generator)).value();
+    const Instant now = std::max(birth, birthday + Instant::duration(seconds(generator)));
     const auto years = calendar.yearsBetween(birth, now);
     if (years != yearsByFields(fields.get(), birth, now)) ++wrong;
   }

@@ -16,8 +16,9 @@ namespace qv_commons::desktop {
 namespace {
 
 // "2000-02-29T12:00:00+01:00", by Qt, which knows nothing of ICU's calendars.
-double at(const char* text) {
-  return static_cast<double>(QDateTime::fromString(text, Qt::ISODate).toSecsSinceEpoch());
+Instant at(const char* text) {
+  return instantAt(
+      static_cast<double>(QDateTime::fromString(text, Qt::ISODate).toSecsSinceEpoch()));
 }
 
 struct Case {
@@ -124,21 +125,24 @@ TEST(CalendarYears, CountPersianYears) {
 TEST(CalendarYears, AreNothingForWhatIsNoDate) {
   const IcuCalendar calendar({"en-US", "UTC"});
   constexpr double kNever = std::numeric_limits<double>::infinity();
-  for (const double nonsense : {std::nan(""), kNever, -kNever, 1e18, -1e18, 8.65e12}) {
-    EXPECT_EQ(calendar.yearsBetween(nonsense, 0), std::nullopt) << nonsense;
-    EXPECT_EQ(calendar.yearsBetween(0, nonsense), std::nullopt) << nonsense;
-    EXPECT_EQ(calendar.dateByAddingYears(nonsense, 1), std::nullopt) << nonsense;
+  constexpr Instant kEpoch;
+  for (const double seconds : {std::nan(""), kNever, -kNever, 1e18, -1e18, 8.65e12}) {
+    const Instant nonsense = instantAt(seconds);
+    EXPECT_EQ(calendar.yearsBetween(nonsense, kEpoch), std::nullopt) << seconds;
+    EXPECT_EQ(calendar.yearsBetween(kEpoch, nonsense), std::nullopt) << seconds;
+    EXPECT_EQ(calendar.dateByAddingYears(nonsense, 1), std::nullopt) << seconds;
   }
-  EXPECT_EQ(calendar.dateByAddingYears(0, std::numeric_limits<int>::max()), std::nullopt);
-  EXPECT_EQ(calendar.dateByAddingYears(8.64e12, 1), std::nullopt);
+  EXPECT_EQ(calendar.dateByAddingYears(kEpoch, std::numeric_limits<int>::max()), std::nullopt);
+  EXPECT_EQ(calendar.dateByAddingYears(instantAt(8.64e12), 1), std::nullopt);
 }
 
 TEST(CalendarYears, AreAddedToADate) {
   const IcuCalendar calendar({"en-US", "Europe/Paris"});
   EXPECT_EQ(calendar.dateByAddingYears(at("2026-11-20T10:00:00Z"), 1), at("2027-11-20T10:00:00Z"));
   EXPECT_EQ(calendar.dateByAddingYears(at("2028-02-29T10:00:00Z"), 1), at("2029-02-28T10:00:00Z"));
-  EXPECT_EQ(calendar.dateByAddingYears(at("2026-11-20T10:00:00Z") + 0.25, 1),
-            at("2027-11-20T10:00:00Z") + 0.25);
+  constexpr Instant::duration kQuarter(0.25);
+  EXPECT_EQ(calendar.dateByAddingYears(at("2026-11-20T10:00:00Z") + kQuarter, 1),
+            at("2027-11-20T10:00:00Z") + kQuarter);
   EXPECT_EQ(IcuCalendar({"ar-SA-u-ca-islamic-civil", "UTC"})
                 .dateByAddingYears(at("2008-12-29T12:00:00Z"), 18),
             at("2026-06-17T12:00:00Z"));
@@ -151,7 +155,7 @@ TEST(CalendarYears, AreTheSameFromManyThreads) {
   for (int& count : wrong) {
     threads.emplace_back([&calendar, &count] {
       for (int day = 0; day < 2000; ++day) {
-        const auto years = calendar.yearsBetween(0, day * 86400.0 * 20);
+        const auto years = calendar.yearsBetween(instantAt(0), instantAt(day * 86400.0 * 20));
         const auto expected = static_cast<std::int64_t>(day * 20 / 365.2425);
         if (!years || std::abs(*years - expected) > 1) ++count;
       }
@@ -191,7 +195,8 @@ TEST(CalendarZone, IsUtcForWhatIsNoZone) {
   for (const char* nonsense : {"", ":", "Nowhere/Land", ":/etc/passwd", "/no/such/file", "\xff"}) {
     EXPECT_EQ(timeZoneIdentifier(nonsense), "UTC") << nonsense;
   }
-  EXPECT_EQ(IcuCalendar({"en-US", "Nowhere/Land"}).dateByAddingYears(0, 1), 31536000);
+  EXPECT_EQ(IcuCalendar({"en-US", "Nowhere/Land"}).dateByAddingYears(instantAt(0), 1),
+            instantAt(31536000));
 }
 
 TEST(CalendarZone, OfTheSystemFollowsTheLink) {

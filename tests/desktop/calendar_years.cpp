@@ -11,6 +11,8 @@ int main() {
   double to = 0;
   while (std::cin >> locale >> zone >> from >> to) {
     const qv_commons::desktop::IcuCalendar calendar({locale, zone});
-    std::cout << calendar.yearsBetween(from, to).value() << '\n';
+    std::cout
+        << calendar.yearsBetween(qv_commons::instantAt(from), qv_commons::instantAt(to)).value()
+        << '\n';
   }
 }

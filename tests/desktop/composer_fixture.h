@@ -37,7 +37,7 @@ class ComposerTest : public testing::Test {
             const std::string& subject = "Help", const std::string& body = "Reason:\n\nApp: x\n") {
     desktop_.emplace(settings_);
     screen_ = desktop_->viewController(host_);
-    composer_ = desktop_->platform().mailComposers.makeMailComposer();
+    composer_ = desktop_->platform().viewControllers.makeMailComposer();
     composer_->setToRecipients({recipient});
     composer_->setSubject(subject);
     composer_->setMessageBody(body, false);

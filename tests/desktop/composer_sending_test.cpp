@@ -322,7 +322,7 @@ TEST_F(ComposerSending, CarriesOnWhileAnotherComposerIsOpenAbove) {
   useMailProgram("cat >\"" + folder_.path("sent") + "\"; sleep 0.3");
   open();
   click(*composer_, "send");
-  const auto above = desktop_->platform().mailComposers.makeMailComposer();
+  const auto above = desktop_->platform().viewControllers.makeMailComposer();
   screen_->presentViewController(above, true, nullptr);
   settle();
   ASSERT_TRUE(waitUntil([&] { return !isOpen(); }));

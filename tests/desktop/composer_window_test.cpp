@@ -39,7 +39,7 @@ TEST_F(ComposerWindows, ComesUpOverTheHostsAndBlocksIt) {
 
 TEST_F(ComposerWindows, AnotherOneAboveBlocksIt) {
   open();
-  const auto above = desktop_->platform().mailComposers.makeMailComposer();
+  const auto above = desktop_->platform().viewControllers.makeMailComposer();
   screen_->presentViewController(above, true, nullptr);
   settle();
   click(*composer_, "cancel");

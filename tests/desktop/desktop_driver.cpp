@@ -9,7 +9,7 @@
 #include <sstream>
 #include <sys/stat.h>
 
-#include "qv_commons/platform/desktop/desktop_node.h"
+#include "qv_commons/platform/desktop/desktop_controller.h"
 
 namespace qv_commons::desktop {
 
@@ -46,11 +46,11 @@ std::string readFile(const std::string& path) {
   return bytes.str();
 }
 
-QWidget& windowOf(const ViewController& controller) {
-  return *static_cast<DesktopNode&>(controller.native()).window();
+QWidget& windowOf(ViewController& controller) {
+  return *dynamic_cast<DesktopController&>(controller.native()).window();
 }
 
-bool isOnScreen(const ViewController& controller) {
+bool isOnScreen(ViewController& controller) {
   return windowOf(controller).isVisible();
 }
 
@@ -64,15 +64,15 @@ void click(QWidget& widget) {
                     widget.mapTo(&window, widget.rect().center()));
 }
 
-void click(const ViewController& controller, const char* name) {
+void click(ViewController& controller, const char* name) {
   click(find<QWidget>(controller, name));
 }
 
-void press(const ViewController& controller, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+void press(ViewController& controller, Qt::Key key, Qt::KeyboardModifiers modifiers) {
   QTest::keyClick(windowOf(controller).windowHandle(), key, modifiers);
 }
 
-void type(const ViewController& controller, const char* text) {
+void type(ViewController& controller, const char* text) {
   for (const char* letter = text; *letter != '\0'; ++letter) {
     QTest::keyClick(windowOf(controller).windowHandle(), *letter);
   }

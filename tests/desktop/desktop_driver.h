@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "qv_commons/platform/desktop/desktop_platform.h"
+#include "qv_commons/platform/view_controllers.h"
 
 namespace qv_commons::desktop {
 
@@ -33,21 +34,21 @@ class TestFolder {
 
 std::string readFile(const std::string& path);
 
-QWidget& windowOf(const ViewController& controller);
-bool isOnScreen(const ViewController& controller);
+QWidget& windowOf(ViewController& controller);
+bool isOnScreen(ViewController& controller);
 
 // The widget of that name; a fatal error of the test where there is none.
 template <class Widget>
-Widget& find(const ViewController& controller, const char* name) {
+Widget& find(ViewController& controller, const char* name) {
   auto* widget = windowOf(controller).findChild<Widget*>(name);
   if (widget == nullptr) throw std::runtime_error(std::string("no widget ") + name);
   return *widget;
 }
 
 void click(QWidget& widget);
-void click(const ViewController& controller, const char* name);
-void press(const ViewController& controller, Qt::Key key, Qt::KeyboardModifiers modifiers = {});
-void type(const ViewController& controller, const char* text);
+void click(ViewController& controller, const char* name);
+void press(ViewController& controller, Qt::Key key, Qt::KeyboardModifiers modifiers = {});
+void type(ViewController& controller, const char* text);
 
 // Lets the event loop run: for as long as it has something to do, or until `condition` holds, at
 // most ten seconds.

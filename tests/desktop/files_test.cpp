@@ -2,7 +2,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "qv_commons/platform/desktop/desktop_files.h"
+#include "qv_commons/platform/desktop/regular_file.h"
 
 #include "tests/desktop/desktop_driver.h"
 
@@ -10,12 +10,12 @@ namespace qv_commons::desktop {
 namespace {
 
 std::string errorFor(const FileLocation& location) {
-  const FileContents contents = DesktopFiles().read(location);
+  const FileContents contents = readRegularFile(location);
   EXPECT_EQ(contents.bytes, std::nullopt);
   return contents.errorDescription;
 }
 
-TEST(DesktopFiles, SayInTheSystemsWordsWhatIsWrong) {
+TEST(RegularFiles, SayInTheSystemsWordsWhatIsWrong) {
   const TestFolder folder;
   folder.write("file", "x");
   EXPECT_EQ(errorFor(folder.path()), "Is a directory");
@@ -25,7 +25,7 @@ TEST(DesktopFiles, SayInTheSystemsWordsWhatIsWrong) {
 }
 
 // The mode of a file does not stop the superuser, who takes another user's part for this one.
-TEST(DesktopFiles, SayThatAFileIsNotTheUsersToRead) {
+TEST(RegularFiles, SayThatAFileIsNotTheUsersToRead) {
   const TestFolder folder;
   const std::string path = folder.write("file", "x");
   ASSERT_EQ(::chmod(path.c_str(), 0000), 0);
@@ -40,25 +40,25 @@ TEST(DesktopFiles, SayThatAFileIsNotTheUsersToRead) {
   EXPECT_EQ(error, "Permission denied");
 }
 
-TEST(DesktopFiles, DoNotWaitForTheWriterOfAPipe) {
+TEST(RegularFiles, DoNotWaitForTheWriterOfAPipe) {
   const TestFolder folder;
   ASSERT_EQ(::mkfifo(folder.path("pipe").c_str(), 0600), 0);
   EXPECT_EQ(errorFor(folder.path("pipe")), "Operation not supported");
   EXPECT_EQ(errorFor("/dev/zero"), "Operation not supported");
 }
 
-TEST(DesktopFiles, ReadFilesThatHoldMoreThanTheySay) {
-  const FileContents contents = DesktopFiles().read("/proc/self/status");
+TEST(RegularFiles, ReadFilesThatHoldMoreThanTheySay) {
+  const FileContents contents = readRegularFile("/proc/self/status");
   ASSERT_TRUE(contents.bytes);
   EXPECT_EQ(contents.bytes->substr(0, 5), "Name:");
 }
 
-TEST(DesktopFiles, ReadAHundredMegabytes) {
+TEST(RegularFiles, ReadAHundredMegabytes) {
   const TestFolder folder;
   constexpr std::size_t kSize = 100'000'000;
   std::string bytes(kSize, 'x');
   bytes.back() = 'y';
-  const FileContents contents = DesktopFiles().read(folder.write("large", bytes));
+  const FileContents contents = readRegularFile(folder.write("large", bytes));
   ASSERT_TRUE(contents.bytes);
   EXPECT_TRUE(*contents.bytes == bytes);
 }

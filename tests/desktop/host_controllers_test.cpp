@@ -9,6 +9,8 @@
 
 #include "qv_commons/age_gate/age_gate_helper.h"
 #include "qv_commons/platform/desktop/desktop_platform.h"
+#include "qv_commons/platform/platform.h"
+#include "qv_commons/platform/view_controllers.h"
 #include "qv_commons/view_utils/view_controller_helper.h"
 
 namespace qv_commons::desktop {
@@ -26,7 +28,8 @@ class HostControllers : public testing::Test {
   }
 
   std::shared_ptr<ViewController> makeAlert() {
-    auto alert = desktop.platform().alerts.makeAlertController("Title", "Text", AlertStyle::alert);
+    auto alert =
+        desktop.platform().viewControllers.makeAlertController("Title", "Text", AlertStyle::alert);
     alert->addAction("OK", AlertActionStyle::standard, nullptr);
     return alert;
   }

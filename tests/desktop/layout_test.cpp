@@ -95,7 +95,7 @@ TEST_P(Layout, TheComposersSendButtonIsAtTheEndOfTheLine) {
 TEST_P(Layout, AnAlertCutsNothingOff) {
   desktop_.emplace(settings_);
   screen_ = desktop_->viewController(host_);
-  const auto alert = desktop_->platform().alerts.makeAlertController(
+  const auto alert = desktop_->platform().viewControllers.makeAlertController(
       "Error", "Please configure your email account in the Settings.", AlertStyle::alert);
   alert->addAction("OK", AlertActionStyle::standard, nullptr);
   screen_->presentViewController(alert, true, nullptr);

@@ -59,7 +59,7 @@ int run(const std::string& folder, const std::string& program,
                                             opening, metadata, host);
   desktop::settle();
 
-  const ViewController& composer = *screen->presentedViewController();
+  ViewController& composer = *screen->presentedViewController();
   desktop::click(composer, "send");
   if (desktop::waitUntil([&] { return host->done; })) return 0;
   std::puts(desktop::find<QLabel>(composer, "notice").text().toUtf8().constData());

@@ -57,7 +57,7 @@ qv_commons::UserInterfaceStyle styleWithPortal(const QString& scheme) {
   portal.start(QApplication::applicationFilePath(), {scheme});
   EXPECT_TRUE(portal.waitForReadyRead(10000));
   const qv_commons::desktop::DesktopPlatform desktop({});
-  const qv_commons::UserInterfaceStyle style = desktop.platform().screen.userInterfaceStyle();
+  const qv_commons::UserInterfaceStyle style = desktop.platform().device.userInterfaceStyle();
   portal.kill();
   portal.waitForFinished();
   return style;

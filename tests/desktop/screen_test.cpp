@@ -11,7 +11,7 @@ namespace qv_commons::desktop {
 namespace {
 
 UserInterfaceStyle styleWith(UserInterfaceStyle setting) {
-  return DesktopPlatform({.userInterfaceStyle = setting}).platform().screen.userInterfaceStyle();
+  return DesktopPlatform({.userInterfaceStyle = setting}).platform().device.userInterfaceStyle();
 }
 
 class ScreenLook : public testing::Test {
@@ -48,8 +48,8 @@ TEST_F(ScreenLook, ReachesWindowsThatAreOpen) {
   QWidget host;
   host.show();
   const auto screen = desktop.viewController(host);
-  const auto alert =
-      desktop.platform().alerts.makeAlertController("Error", "It broke.", AlertStyle::alert);
+  const auto alert = desktop.platform().viewControllers.makeAlertController("Error", "It broke.",
+                                                                            AlertStyle::alert);
   alert->addAction("OK", AlertActionStyle::standard, nullptr);
   screen->presentViewController(alert, true, nullptr);
   settle();
@@ -62,7 +62,7 @@ TEST_F(ScreenLook, ReachesWindowsThatAreOpen) {
 }
 
 TEST_F(ScreenLook, HasTheSizeOfThePrimaryScreen) {
-  const Size bounds = DesktopPlatform({}).platform().screen.bounds();
+  const Size bounds = DesktopPlatform({}).platform().device.screenBounds();
   EXPECT_EQ(bounds.width, QApplication::primaryScreen()->geometry().width());
   EXPECT_EQ(bounds.height, QApplication::primaryScreen()->geometry().height());
 }

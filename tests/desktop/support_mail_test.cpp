@@ -33,7 +33,7 @@ class SupportMail : public testing::Test {
 
   void useReceipt(const std::string& bytes) { folder_.write("bundle/StoreKit/receipt", bytes); }
 
-  const ViewController& contactSupport(const std::string& metadata = "") {
+  ViewController& contactSupport(const std::string& metadata = "") {
     helper_->contactSupport(*screen_, "support@example.com", "Help", {}, std::nullopt, metadata,
                             host_);
     settle();
@@ -43,7 +43,7 @@ class SupportMail : public testing::Test {
   // What the console says when a request is made, whose composer is then left.
   std::string consoleOfARequest() {
     testing::internal::CaptureStdout();
-    const ViewController& composer = contactSupport();
+    ViewController& composer = contactSupport();
     std::string said = testing::internal::GetCapturedStdout();
     EXPECT_EQ(windowOf(composer).findChild<QLabel*>("attachmentName"), nullptr);
     click(composer, "cancel");
@@ -72,7 +72,7 @@ class SupportMail : public testing::Test {
 
 TEST_F(SupportMail, ShowsAnAlertWhereNoMailCanBeSent) {
   ASSERT_EQ(std::remove(folder_.path("sendmail").c_str()), 0);
-  const ViewController& alert = contactSupport();
+  ViewController& alert = contactSupport();
   EXPECT_EQ(alert.kind(), ViewControllerKind::alert);
   EXPECT_EQ(find<QLabel>(alert, "title").text(), "Error");
   EXPECT_EQ(find<QLabel>(alert, "message").text().remove(QChar(0x200b)),
@@ -109,7 +109,7 @@ TEST_F(SupportMail, GoesWithoutAReceiptThatCannotBeRead) {
 
 TEST_F(SupportMail, AttachesAnEmptyReceipt) {
   useReceipt("");
-  const ViewController& composer = contactSupport();
+  ViewController& composer = contactSupport();
   EXPECT_EQ(find<QLabel>(composer, "attachmentSize").text(), "0 bytes");
   click(composer, "save");
   ASSERT_TRUE(waitUntil([&] { return host_->completions == 1; }));
@@ -119,7 +119,7 @@ TEST_F(SupportMail, AttachesAnEmptyReceipt) {
 // "xxx" is "eHh4" in base64, and "eHh4" is "ZUhoNA==".
 TEST_F(SupportMail, AttachesAHundredMegabytes) {
   useReceipt(std::string(99'999'999, 'x'));
-  const ViewController& composer = contactSupport();
+  ViewController& composer = contactSupport();
   EXPECT_EQ(find<QLabel>(composer, "attachmentSize").text(), "133.3 MB");
   click(composer, "save");
   ASSERT_TRUE(waitUntil([&] { return host_->completions == 1; }));
@@ -129,7 +129,7 @@ TEST_F(SupportMail, AttachesAHundredMegabytes) {
 }
 
 TEST_F(SupportMail, TellsTheHostOnceTheComposerIsGone) {
-  const ViewController& composer = contactSupport();
+  ViewController& composer = contactSupport();
   click(composer, "send");
   ASSERT_TRUE(waitUntil([&] { return host_->completions == 1; }));
   EXPECT_EQ(screen_->presentedViewController(), nullptr);
@@ -137,7 +137,7 @@ TEST_F(SupportMail, TellsTheHostOnceTheComposerIsGone) {
 }
 
 TEST_F(SupportMail, SkipsAHostThatIsGone) {
-  const ViewController& composer = contactSupport();
+  ViewController& composer = contactSupport();
   host_.reset();
   click(composer, "cancel");
   settle();
@@ -145,7 +145,7 @@ TEST_F(SupportMail, SkipsAHostThatIsGone) {
 }
 
 TEST_F(SupportMail, ClosesTheComposerOfAHelperThatIsGone) {
-  const ViewController& composer = contactSupport();
+  ViewController& composer = contactSupport();
   helper_.reset();
   click(composer, "cancel");
   settle();
@@ -154,9 +154,9 @@ TEST_F(SupportMail, ClosesTheComposerOfAHelperThatIsGone) {
 }
 
 TEST_F(SupportMail, ASecondRequestTakesTheSlotOfTheFirst) {
-  const ViewController& first = contactSupport();
+  ViewController& first = contactSupport();
   const std::shared_ptr<Host> firstHost = std::exchange(host_, std::make_shared<Host>());
-  const ViewController& second = contactSupport();
+  ViewController& second = contactSupport();
   EXPECT_NE(&first, &second);
   click(second, "cancel");
   settle();
@@ -170,7 +170,7 @@ TEST_F(SupportMail, ASecondRequestTakesTheSlotOfTheFirst) {
 }
 
 TEST_F(SupportMail, TwoClicksAreOneFinish) {
-  const ViewController& composer = contactSupport();
+  ViewController& composer = contactSupport();
   QPushButton& cancel = find<QPushButton>(composer, "cancel");
   cancel.click();
   cancel.click();
@@ -179,7 +179,7 @@ TEST_F(SupportMail, TwoClicksAreOneFinish) {
 }
 
 TEST_F(SupportMail, KeepsTheBytesOfMetadataWhenTheUserWritesAbove) {
-  const ViewController& composer = contactSupport("a\rb\r\nc\n");
+  ViewController& composer = contactSupport("a\rb\r\nc\n");
   press(composer, Qt::Key_X);
   click(composer, "save");
   ASSERT_TRUE(waitUntil([&] { return host_->completions == 1; }));

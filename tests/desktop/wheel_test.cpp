@@ -15,8 +15,9 @@
 namespace qv_commons::desktop {
 namespace {
 
-double at(const char* text) {
-  return static_cast<double>(QDateTime::fromString(text, Qt::ISODate).toSecsSinceEpoch());
+Instant at(const char* text) {
+  return instantAt(
+      static_cast<double>(QDateTime::fromString(text, Qt::ISODate).toSecsSinceEpoch()));
 }
 
 class WheelTest : public testing::Test {
@@ -79,8 +80,8 @@ TEST_F(WheelTest, ShowsWhatItIsSetToAndSaysNothingOfIt) {
 }
 
 TEST_F(WheelTest, KeepsADateToTheFractionUntilTheUserTurnsIt) {
-  picker_.setDate(1795188600.123456);
-  EXPECT_EQ(picker_.date(), 1795188600.123456);
+  picker_.setDate(instantAt(1795188600.123456));
+  EXPECT_EQ(picker_.date(), instantAt(1795188600.123456));
 }
 
 TEST_F(WheelTest, TurnsByTheKeysAndKeepsTheTimeOfDay) {
@@ -183,13 +184,13 @@ TEST_F(WheelTest, TakesADateBeyondTheMaximumForTheMaximum) {
 }
 
 TEST_F(WheelTest, IgnoresWhatIsNoDate) {
-  const double before = picker_.date();
+  const Instant before = picker_.date();
   for (const double nonsense : {std::numeric_limits<double>::quiet_NaN(),
                                 std::numeric_limits<double>::infinity(), -1e300}) {
-    picker_.setDate(nonsense);
+    picker_.setDate(instantAt(nonsense));
     EXPECT_EQ(picker_.date(), before);
   }
-  picker_.setMaximumDate(std::numeric_limits<double>::quiet_NaN());
+  picker_.setMaximumDate(instantAt(std::numeric_limits<double>::quiet_NaN()));
   wheel(DateField::year).setFocus();
   press(Qt::Key_End);
   EXPECT_THAT(texts(), ElementsAre("November", "20", "2176"));

@@ -14,7 +14,6 @@ namespace {
 constexpr int kYearsOnOffer = 150;  // nobody has lived that long
 constexpr int kNoon = 12;           // on every day of every zone, whatever the clocks do
 constexpr int kMostMonths = 14;     // one more than any calendar has
-constexpr double kMillisecondsPerSecond = 1000;
 
 QString toQString(const icu::UnicodeString& text) {
   return QString::fromUtf16(text.getBuffer(), text.length());
@@ -50,7 +49,7 @@ std::unique_ptr<icu::SimpleDateFormat> makeFormat(const IcuCalendar& calendar,
 
 DateWheels::DateWheels(const IcuCalendar& calendar) : calendar_(calendar) {
   makeFormats();
-  setDate(0);
+  setDate(Instant());
 }
 
 void DateWheels::makeFormats() {
@@ -71,18 +70,18 @@ void DateWheels::makeFormats() {
                    makeFormat(calendar_, "L")};
 }
 
-void DateWheels::setDate(double date) {
+void DateWheels::setDate(Instant date) {
   if (!calendar_.dateByAddingYears(date, 0)) return;
   moveTo(maximum_ ? std::min(date, *maximum_) : date);
   UErrorCode status = U_ZERO_ERROR;
   const auto calendar = calendar_.makeCalendar();
-  calendar->setTime(date_ * kMillisecondsPerSecond, status);
+  calendar->setTime(toMilliseconds(date_), status);
   millisecondOfDay_ = calendar->get(UCAL_MILLISECONDS_IN_DAY, status);
   firstYear_ = day_.year - kYearsOnOffer;
   lastYear_ = maximum_ ? maximumDay_.year : day_.year + kYearsOnOffer;
 }
 
-void DateWheels::setMaximumDate(std::optional<double> maximum) {
+void DateWheels::setMaximumDate(std::optional<Instant> maximum) {
   const bool isDate = maximum && calendar_.dateByAddingYears(*maximum, 0);
   maximum_ = isDate ? maximum : std::nullopt;
   if (maximum_) maximumDay_ = dayOf(*maximum_);
@@ -118,12 +117,12 @@ int DateWheels::row(DateField field) const {
 void DateWheels::choose(DateField field, int row) {
   const int nearest = std::clamp(row, 0, rows(field) - 1);
   if (nearest == this->row(field)) return;
-  const double chosen = instantOfRow(field, nearest) / kMillisecondsPerSecond;
+  const Instant chosen = toInstant(millisecondsOfRow(field, nearest));
   moveTo(maximum_ ? std::min(chosen, *maximum_) : chosen);
 }
 
 QString DateWheels::text(DateField field, int row, MonthForm form) const {
-  const double instant = instantOfRow(field, row);
+  const double instant = millisecondsOfRow(field, row);
   switch (field) {
     case DateField::year:
       return format(*yearFormat_, instant);
@@ -139,7 +138,7 @@ int DateWheels::number(DateField field, int row) const {
   if (field != DateField::year) return row + 1;
   UErrorCode status = U_ZERO_ERROR;
   const auto calendar = calendar_.makeCalendar();
-  calendar->setTime(instantOfRow(field, row), status);
+  calendar->setTime(millisecondsOfRow(field, row), status);
   return calendar->get(UCAL_YEAR, status);
 }
 
@@ -162,10 +161,10 @@ std::vector<DateWheels::Month> DateWheels::monthsOf(int year) const {
   return months;
 }
 
-DateWheels::Day DateWheels::dayOf(double date) const {
+DateWheels::Day DateWheels::dayOf(Instant date) const {
   UErrorCode status = U_ZERO_ERROR;
   const auto calendar = calendar_.makeCalendar();
-  calendar->setTime(date * kMillisecondsPerSecond, status);
+  calendar->setTime(toMilliseconds(date), status);
   Day day;
   day.year = calendar->get(UCAL_EXTENDED_YEAR, status);
   day.day = calendar->get(UCAL_DATE, status);
@@ -180,7 +179,7 @@ DateWheels::Day DateWheels::dayOf(double date) const {
 }
 
 // In milliseconds, with the time of day that was set.
-double DateWheels::instantOf(const Month& month, int day) const {
+double DateWheels::millisecondsOf(const Month& month, int day) const {
   UErrorCode status = U_ZERO_ERROR;
   const auto calendar = calendar_.makeCalendar();
   calendar->setTime(month.start, status);
@@ -189,13 +188,13 @@ double DateWheels::instantOf(const Month& month, int day) const {
   return calendar->getTime(status);
 }
 
-double DateWheels::instantOfRow(DateField field, int row) const {
+double DateWheels::millisecondsOfRow(DateField field, int row) const {
   const auto month = static_cast<std::size_t>(day_.month);
   switch (field) {
     case DateField::day:
-      return instantOf(day_.months[month], row + 1);
+      return millisecondsOf(day_.months[month], row + 1);
     case DateField::month:
-      return instantOf(day_.months[static_cast<std::size_t>(row)], day_.day);
+      return millisecondsOf(day_.months[static_cast<std::size_t>(row)], day_.day);
     case DateField::year:
       break;
   }
@@ -204,11 +203,11 @@ double DateWheels::instantOfRow(DateField field, int row) const {
   const auto same = std::find_if(months.begin(), months.end(), [&](const Month& candidate) {
     return candidate.identity == day_.months[month].identity;
   });
-  return instantOf(same != months.end() ? *same : months[std::min(month, months.size() - 1)],
-                   day_.day);
+  return millisecondsOf(same != months.end() ? *same : months[std::min(month, months.size() - 1)],
+                        day_.day);
 }
 
-void DateWheels::moveTo(double date) {
+void DateWheels::moveTo(Instant date) {
   date_ = date;
   day_ = dayOf(date);
 }

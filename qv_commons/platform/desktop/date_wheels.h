@@ -27,15 +27,15 @@ class DateWheels {
   // `calendar` outlives the wheels. The date is 1970-01-01 00:00:00 UTC until it is set.
   explicit DateWheels(const IcuCalendar& calendar);
 
-  // Seconds since 1970. The years on offer reach from 150 years before `date` up to the maximum,
+  // The years on offer reach from 150 years before `date` up to the maximum,
   // or to 150 years after it where there is none. A date beyond the maximum becomes the maximum;
   // one that is not a number, or further away than the calendar goes, changes nothing.
-  void setDate(double date);
+  void setDate(Instant date);
 
   // Nothing, or what is no date: no maximum.
-  void setMaximumDate(std::optional<double> maximum);
+  void setMaximumDate(std::optional<Instant> maximum);
 
-  double date() const { return date_; }
+  Instant date() const { return date_; }
 
   // The fields in the order in which the locale writes them, for example month, day, year.
   const std::array<DateField, 3>& order() const { return order_; }
@@ -71,10 +71,10 @@ class DateWheels {
 
   void makeFormats();
   std::vector<Month> monthsOf(int year) const;
-  Day dayOf(double date) const;
-  double instantOf(const Month& month, int day) const;
-  double instantOfRow(DateField field, int row) const;
-  void moveTo(double date);
+  Day dayOf(Instant date) const;
+  double millisecondsOf(const Month& month, int day) const;
+  double millisecondsOfRow(DateField field, int row) const;
+  void moveTo(Instant date);
   QString format(const icu::SimpleDateFormat& format, double milliseconds) const;
 
   const IcuCalendar& calendar_;
@@ -84,8 +84,8 @@ class DateWheels {
   std::unique_ptr<icu::SimpleDateFormat> dayFormat_;
   std::array<std::unique_ptr<icu::SimpleDateFormat>, 3> monthFormats_;  // by MonthForm
 
-  double date_ = 0;
-  std::optional<double> maximum_;
+  Instant date_;
+  std::optional<Instant> maximum_;
   Day day_;            // of `date_`, so that painting asks the calendar less
   Day maximumDay_;     // of `maximum_`
   int firstYear_ = 0;  // on offer

@@ -1,56 +1,18 @@
 #include "qv_commons/platform/desktop/desktop_alert.h"
 
-#include <QDialog>
 #include <QLabel>
 #include <QPushButton>
-#include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
-#include <vector>
 
-#include "qv_commons/platform/desktop/desktop_node.h"
 #include "qv_commons/platform/desktop/desktop_style.h"
 #include "qv_commons/platform/desktop/qt_text.h"
 
 namespace qv_commons::desktop {
-namespace {
-
-class DesktopAlert final : public DesktopNode {
- public:
-  DesktopAlert(SharedContext context, const std::string& title, const std::string& message);
-
-  AlertController& controller() override { return alert_; }
-
- protected:
-  void place(QWidget& window, const QWidget& presenterWindow) override;
-  void dress(UserInterfaceStyle style) override;
-  void userLeaves() override;
-
- private:
-  class Alert final : public AlertController {
-   public:
-    explicit Alert(DesktopAlert& owner) : AlertController(owner), owner_(owner) {}
-    void addAction(std::string title, AlertActionStyle style, Completion handler) override {
-      owner_.addButton(title, style, std::move(handler));
-    }
-
-   private:
-    DesktopAlert& owner_;
-  };
-
-  QLabel* addLabel(const std::string& text, const char* role);
-  void addButton(const std::string& title, AlertActionStyle style, Completion handler);
-
-  Alert alert_{*this};
-  QDialog dialog_;
-  QVBoxLayout layout_{&dialog_};
-  std::vector<QPushButton*> buttons_;
-  QPushButton* cancelButton_ = nullptr;
-};
 
 DesktopAlert::DesktopAlert(SharedContext context, const std::string& title,
                            const std::string& message)
-    : DesktopNode(std::move(context), ViewControllerKind::alert) {
+    : NativeOf(std::move(context)) {
   attachWindow(dialog_);
   dialog_.setWindowTitle(fromUtf8(title));
   dialog_.setAccessibleName(fromUtf8(title));
@@ -72,7 +34,7 @@ QLabel* DesktopAlert::addLabel(const std::string& text, const char* role) {
   return label;
 }
 
-void DesktopAlert::addButton(const std::string& title, AlertActionStyle style, Completion handler) {
+void DesktopAlert::addAction(std::string title, AlertActionStyle style, Completion handler) {
   auto* button = new QPushButton(fromUtf8(title).replace('&', "&&"));
   button->setObjectName("action" + QString::number(buttons_.size()));
   button->setAccessibleName(fromUtf8(title));
@@ -83,9 +45,8 @@ void DesktopAlert::addButton(const std::string& title, AlertActionStyle style, C
   }
   layout_.addWidget(button);
   buttons_.push_back(button);
-  QObject::connect(button, &QPushButton::clicked, button, [this, handler = std::move(handler)] {
-    PresentationNode::dismissViewController(true, handler);
-  });
+  QObject::connect(button, &QPushButton::clicked, button,
+                   [this, handler = std::move(handler)] { dismiss(true, handler); });
 }
 
 void DesktopAlert::place(QWidget& window, const QWidget& presenterWindow) {
@@ -109,16 +70,6 @@ void DesktopAlert::userLeaves() {
   if (isModalInPresentation()) return;
   QPushButton* way = buttons_.size() == 1 ? buttons_.front() : cancelButton_;
   if (way != nullptr) way->click();
-}
-
-}  // namespace
-
-std::shared_ptr<AlertController> DesktopAlerts::makeAlertController(std::string title,
-                                                                    std::string message,
-                                                                    AlertStyle) {
-  auto made = std::make_shared<DesktopAlert>(context_, title, message);
-  AlertController& controller = made->controller();
-  return {std::move(made), &controller};
 }
 
 }  // namespace qv_commons::desktop

@@ -1,22 +1,39 @@
 // Alerts as small windows.
 #pragma once
 
+#include <QDialog>
+#include <QVBoxLayout>
+#include <string>
+#include <vector>
+
 #include "qv_commons/platform/alert.h"
-#include "qv_commons/platform/desktop/desktop_context.h"
+#include "qv_commons/platform/desktop/desktop_controller.h"
+
+class QLabel;
+class QPushButton;
 
 namespace qv_commons::desktop {
 
-class DesktopAlerts final : public Alerts {
+// Escape and the window's close button stand for the cancel button, or for the only one; where
+// there is neither they do nothing.
+class DesktopAlert final : public NativeOf<AlertController, DesktopController> {
  public:
-  explicit DesktopAlerts(SharedContext context) : context_(std::move(context)) {}
+  DesktopAlert(SharedContext context, const std::string& title, const std::string& message);
 
-  // Both styles look alike. Escape and the window's close button stand for the cancel button, or
-  // for the only one; where there is neither they do nothing.
-  std::shared_ptr<AlertController> makeAlertController(std::string title, std::string message,
-                                                       AlertStyle preferredStyle) override;
+  void addAction(std::string title, AlertActionStyle style, Completion handler) override;
+
+ protected:
+  void place(QWidget& window, const QWidget& presenterWindow) override;
+  void dress(UserInterfaceStyle style) override;
+  void userLeaves() override;
 
  private:
-  SharedContext context_;
+  QLabel* addLabel(const std::string& text, const char* role);
+
+  QDialog dialog_;
+  QVBoxLayout layout_{&dialog_};
+  std::vector<QPushButton*> buttons_;
+  QPushButton* cancelButton_ = nullptr;
 };
 
 }  // namespace qv_commons::desktop

@@ -8,7 +8,7 @@
 #include <type_traits>
 #include <utility>
 
-#include "qv_commons/platform/desktop/desktop_files.h"
+#include "qv_commons/platform/desktop/regular_file.h"
 #include "qv_commons/platform/desktop/resource_search.h"
 
 namespace qv_commons::desktop {
@@ -80,7 +80,7 @@ DesktopBundle::DesktopBundle(std::string directory, const DesktopContext& contex
   const std::string location = directory_ + "/Info.plist";
   std::error_code ignored;
   if (infoPlist == InfoPlist::optional && !std::filesystem::exists(location, ignored)) return;
-  const FileContents file = DesktopFiles().read(location);
+  const FileContents file = readRegularFile(location);
   if (!file.bytes) {
     context.reportError(location + ": " + file.errorDescription);
     return;
@@ -125,6 +125,10 @@ std::shared_ptr<Bundle> DesktopBundles::bundleWithURL(const FileLocation& locati
   std::error_code ignored;
   if (!std::filesystem::is_directory(location, ignored)) return nullptr;
   return std::make_shared<DesktopBundle>(location, context_, DesktopBundle::InfoPlist::optional);
+}
+
+FileContents DesktopBundles::read(const FileLocation& location) const {
+  return readRegularFile(location);
 }
 
 }  // namespace qv_commons::desktop

@@ -41,7 +41,7 @@ std::string joined(const std::vector<std::string>& texts) {
 }  // namespace
 
 DesktopComposer::DesktopComposer(SharedContext context)
-    : DesktopNode(std::move(context)),
+    : NativeOf(std::move(context)),
       window_({.send = [this] { send(); },
                .save = [this] { save(); },
                .cancel = [this] { cancel(); },
@@ -72,12 +72,12 @@ void DesktopComposer::userLeaves() {
 
 void DesktopComposer::show(bool animated) {
   isOver_ = false;
-  DesktopNode::show(animated);
+  DesktopController::show(animated);
 }
 
 void DesktopComposer::hide(bool animated) {
   if (!isBusy()) keepWhatWasTyped();
-  DesktopNode::hide(animated);
+  DesktopController::hide(animated);
 }
 
 void DesktopComposer::keepWhatWasTyped() {
@@ -240,33 +240,32 @@ void DesktopComposer::leave(MailComposeResult result) {
   isOver_ = true;
   window_.setPhase(Phase::left);
   if (const std::shared_ptr<MailComposeDelegate> told = delegate_.lock()) {
-    told->mailComposeController(composer_, result, "");
+    told->mailComposeController(*this, result, "");
   } else {
-    composer_.dismissViewController(true, nullptr);
+    dismiss(true, nullptr);
   }
 }
 
-void DesktopComposer::Composer::setToRecipients(std::vector<std::string> recipients) {
-  owner_.window_.setRecipients(joined(recipients));
+void DesktopComposer::setToRecipients(std::vector<std::string> recipients) {
+  window_.setRecipients(joined(recipients));
 }
 
-void DesktopComposer::Composer::setSubject(std::string subject) {
-  owner_.window_.setSubject(subject);
+void DesktopComposer::setSubject(std::string subject) {
+  window_.setSubject(subject);
 }
 
-void DesktopComposer::Composer::setMailComposeDelegate(
-    std::weak_ptr<MailComposeDelegate> delegate) {
-  owner_.delegate_ = std::move(delegate);
+void DesktopComposer::setMailComposeDelegate(std::weak_ptr<MailComposeDelegate> delegate) {
+  delegate_ = std::move(delegate);
 }
 
-void DesktopComposer::Composer::setMessageBody(std::string body, bool isHTML) {
-  owner_.window_.setBody(std::move(body));
-  owner_.isHTML_ = isHTML;
+void DesktopComposer::setMessageBody(std::string body, bool isHTML) {
+  window_.setBody(std::move(body));
+  isHTML_ = isHTML;
 }
 
-void DesktopComposer::Composer::addAttachment(MailAttachment attachment) {
-  owner_.window_.addAttachment(attachment);
-  owner_.attachments_.push_back(std::make_shared<const MailAttachment>(std::move(attachment)));
+void DesktopComposer::addAttachment(MailAttachment attachment) {
+  window_.addAttachment(attachment);
+  attachments_.push_back(std::make_shared<const MailAttachment>(std::move(attachment)));
 }
 
 }  // namespace qv_commons::desktop

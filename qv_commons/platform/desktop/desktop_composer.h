@@ -10,19 +10,23 @@
 
 #include "qv_commons/platform/desktop/background_work.h"
 #include "qv_commons/platform/desktop/composer_window.h"
-#include "qv_commons/platform/desktop/desktop_node.h"
+#include "qv_commons/platform/desktop/desktop_controller.h"
 #include "qv_commons/platform/desktop/mail_output.h"
 #include "qv_commons/platform/desktop/mail_sender.h"
 #include "qv_commons/platform/mail_composer.h"
 
 namespace qv_commons::desktop {
 
-class DesktopComposer final : public DesktopNode {
+class DesktopComposer final : public NativeOf<MailComposer, DesktopController> {
  public:
   explicit DesktopComposer(SharedContext context);
   ~DesktopComposer() override;
 
-  MailComposer& controller() override { return composer_; }
+  void setToRecipients(std::vector<std::string> recipients) override;
+  void setSubject(std::string subject) override;
+  void setMailComposeDelegate(std::weak_ptr<MailComposeDelegate> delegate) override;
+  void setMessageBody(std::string body, bool isHTML) override;
+  void addAttachment(MailAttachment attachment) override;
 
  protected:
   void dress(UserInterfaceStyle style) override;
@@ -36,19 +40,6 @@ class DesktopComposer final : public DesktopNode {
   void hide(bool animated) override;
 
  private:
-  class Composer final : public MailComposer {
-   public:
-    explicit Composer(DesktopComposer& owner) : MailComposer(owner), owner_(owner) {}
-    void setToRecipients(std::vector<std::string> recipients) override;
-    void setSubject(std::string subject) override;
-    void setMailComposeDelegate(std::weak_ptr<MailComposeDelegate> delegate) override;
-    void setMessageBody(std::string body, bool isHTML) override;
-    void addAttachment(MailAttachment attachment) override;
-
-   private:
-    DesktopComposer& owner_;
-  };
-
   void send();
   void save();
   void cancel();
@@ -70,7 +61,6 @@ class DesktopComposer final : public DesktopNode {
   void removeCopyAndLeave(MailComposeResult result);
   void leave(MailComposeResult result);
 
-  Composer composer_{*this};
   ComposerWindow window_;
   std::string identity_;  // names the message and its draft
   bool isDraft_ = false;  // that the user has kept

@@ -7,16 +7,19 @@
 
 #include "qv_commons/platform/desktop/data_folder.h"
 #include "qv_commons/platform/desktop/desktop_platform.h"
+#include "qv_commons/platform/presentation.h"
 
 namespace qv_commons::desktop {
 
-class HostNode;
+class HostController;
 
 struct DesktopContext {
   DesktopSettings settings;
 
   // The controllers of the host's own widgets that somebody holds.
-  std::map<const QWidget*, HostNode*> hostNodes;
+  std::map<const QWidget*, HostController*> hosts;
+
+  Presentations presentations;
 
   // Completions wait in this object's event queue, and go with it.
   QObject transitions;

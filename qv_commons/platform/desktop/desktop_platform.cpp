@@ -4,17 +4,12 @@
 #include <QStackedWidget>
 #include <QTabWidget>
 #include <utility>
-#include <vector>
 
-#include "qv_commons/platform/desktop/desktop_alert.h"
 #include "qv_commons/platform/desktop/desktop_bundle.h"
 #include "qv_commons/platform/desktop/desktop_context.h"
-#include "qv_commons/platform/desktop/desktop_files.h"
-#include "qv_commons/platform/desktop/desktop_layout_loader.h"
-#include "qv_commons/platform/desktop/desktop_mail.h"
-#include "qv_commons/platform/desktop/desktop_screen.h"
 #include "qv_commons/platform/desktop/desktop_system.h"
-#include "qv_commons/platform/desktop/host_node.h"
+#include "qv_commons/platform/desktop/desktop_view_controllers.h"
+#include "qv_commons/platform/desktop/host_controller.h"
 #include "qv_commons/platform/desktop/icu_calendar.h"
 #include "qv_commons/platform/desktop/mail_drafts.h"
 #include "qv_commons/platform/desktop/sqlite_user_defaults.h"
@@ -28,43 +23,29 @@ struct DesktopPlatform::Parts {
 
   SharedContext context;
   DesktopBundles bundles{*context};
-  DesktopFiles files;
   DesktopConsole console;
-  DesktopDevice device;
-  DesktopLanguages languages;
-  DesktopScreen screen{context->settings.userInterfaceStyle};
-  DesktopSystemVersion systemVersion{context->settings.systemVersion};
+  DesktopDevice device{context->settings.systemVersion, context->settings.userInterfaceStyle};
   DesktopClock clock;
   IcuCalendar calendar{context->settings.calendar};
   SqliteUserDefaults userDefaults{context->dataDirectory(),
                                   bundles.mainBundle().bundleIdentifier().value_or(""),
                                   context->settings.onError};
   DesktopApplication application;
-  DesktopMail mail{context};
-  DesktopAlerts alerts{context};
-  DesktopLayoutLoader layoutLoader{context, {calendar, application}};
+  DesktopViewControllers viewControllers{context, {calendar, application}};
   Platform platform{.bundles = bundles,
-                    .files = files,
                     .console = console,
                     .device = device,
-                    .languages = languages,
-                    .screen = screen,
-                    .systemVersion = systemVersion,
                     .clock = clock,
                     .calendar = calendar,
                     .userDefaults = userDefaults,
                     .application = application,
-                    .mailComposers = mail,
-                    .alerts = alerts,
-                    .layoutLoader = layoutLoader};
+                    .viewControllers = viewControllers};
 };
 
-// A screen may keep the host that shows it, which keeps the screen: taking the screens away lets go
-// of both. What still waits refers to screens, and those to the parts that are about to go.
+// A screen and the host that shows it keep each other. What still waits refers to screens, and
+// those to the parts that are about to go.
 DesktopPlatform::Parts::~Parts() {
-  std::vector<std::shared_ptr<ViewController>> hosts;
-  for (const auto& [widget, node] : context->hostNodes) hosts.push_back(node->retained());
-  for (const auto& host : hosts) host->dismissViewController(false, nullptr);
+  context->presentations.dismissAll();
   QCoreApplication::removePostedEvents(&context->transitions);
 }
 

@@ -20,7 +20,9 @@
 #include <vector>
 
 #include "qv_commons/platform/desktop/calendar_settings.h"
+#include "qv_commons/platform/device.h"
 #include "qv_commons/platform/platform.h"
+#include "qv_commons/platform/view_controller.h"
 
 class QStackedWidget;
 class QTabWidget;

@@ -4,8 +4,8 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPixmap>
+#include <string>
 
-#include "qv_commons/platform/desktop/qt_text.h"
 #include "qv_commons/platform/fatal_error.h"
 
 namespace qv_commons::desktop {
@@ -28,34 +28,22 @@ QIcon magnifyingGlass(const QColor& color) {
 }  // namespace
 
 DesktopSearchBar::DesktopSearchBar(const QString& prompt, QWidget* parent)
-    : QWidget(parent), line_(new QLineEdit), field_(*line_) {
-  line_->setPlaceholderText(prompt);
-  line_->setAccessibleName(prompt);
-  line_->setClearButtonEnabled(true);
-  line_->setMinimumHeight(44);  // what a finger needs
-  line_->addAction(magnifyingGlass(palette().color(QPalette::PlaceholderText)),
-                   QLineEdit::LeadingPosition);
+    : QWidget(parent), field_(new QLineEdit) {
+  field_->setPlaceholderText(prompt);
+  field_->setAccessibleName(prompt);
+  field_->setClearButtonEnabled(true);
+  field_->setMinimumHeight(44);  // what a finger needs
+  field_->addAction(magnifyingGlass(palette().color(QPalette::PlaceholderText)),
+                    QLineEdit::LeadingPosition);
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(line_);
-  setFocusProxy(line_);
+  layout->addWidget(field_);
+  setFocusProxy(field_);
 }
 
-TextField* DesktopSearchBar::searchTextField() const {
-  return &field_;
-}
-
-SearchBarValue DesktopSearchBar::valueForKey(std::string_view key) const {
-  if (key == "_searchField") return &field_;
+QLineEdit* DesktopSearchBar::valueForKey(std::string_view key) const {
+  if (key == "_searchField") return field_;
   fatalError("DesktopSearchBar: there is no value for the key \"" + std::string(key) + "\"");
-}
-
-std::string DesktopSearchBar::Field::text() const {
-  return toUtf8(line_.text());
-}
-
-void DesktopSearchBar::Field::setText(const std::string& text) {
-  line_.setText(fromUtf8(text));
 }
 
 }  // namespace qv_commons::desktop

@@ -1,12 +1,15 @@
 #include "qv_commons/platform/desktop/desktop_system.h"
 
 #include <QDesktopServices>
+#include <QGuiApplication>
 #include <QLocale>
+#include <QScreen>
 #include <QSysInfo>
 #include <QUrl>
 #include <chrono>
 #include <cstdio>
 
+#include "qv_commons/platform/desktop/interface_style.h"
 #include "qv_commons/platform/desktop/qt_text.h"
 #include "qv_commons/support/url.h"
 
@@ -30,7 +33,7 @@ std::string DesktopDevice::localizedModel() const {
   return toUtf8(distribution + " PC");
 }
 
-std::vector<std::string> DesktopLanguages::preferredLanguages() const {
+std::vector<std::string> DesktopDevice::preferredLanguages() const {
   std::vector<std::string> languages;
   for (const QString& language : QLocale::system().uiLanguages()) {
     if (language != "C") languages.push_back(toUtf8(language));
@@ -38,9 +41,19 @@ std::vector<std::string> DesktopLanguages::preferredLanguages() const {
   return languages;
 }
 
-double DesktopClock::timeIntervalSince1970() const {
-  const auto now = std::chrono::system_clock::now().time_since_epoch();
-  return std::chrono::duration<double>(now).count();
+Size DesktopDevice::screenBounds() const {
+  const QScreen* monitor = QGuiApplication::primaryScreen();
+  if (monitor == nullptr) return {};
+  const QSizeF size = monitor->geometry().size();
+  return {size.width(), size.height()};
+}
+
+UserInterfaceStyle DesktopDevice::userInterfaceStyle() const {
+  return currentUserInterfaceStyle(style_);
+}
+
+Instant DesktopClock::now() const {
+  return std::chrono::system_clock::now();
 }
 
 void DesktopApplication::openURL(const URL& url) {

@@ -1,12 +1,11 @@
-// What the desktop says of itself: device, languages, system version, clock; and the two small ways
-// out, console and application.
+// What the desktop says of itself: device and clock; and the two small ways out, console and
+// application.
 #pragma once
 
 #include "qv_commons/platform/application.h"
 #include "qv_commons/platform/clock.h"
 #include "qv_commons/platform/console.h"
 #include "qv_commons/platform/device.h"
-#include "qv_commons/platform/system_version.h"
 
 namespace qv_commons::desktop {
 
@@ -18,34 +17,35 @@ class DesktopConsole final : public Console {
 
 class DesktopDevice final : public Device {
  public:
-  // The distribution's version, for example "12"; the kernel's where it has none.
-  std::string systemVersion() const override;
+  // The version that the library takes the system for, and the look that was set.
+  DesktopDevice(const OperatingSystemVersion& version, UserInterfaceStyle style)
+      : version_(version), style_(style) {}
 
   // The distribution and the kind of machine, for example "Debian PC".
   std::string localizedModel() const override;
-};
 
-// From LANGUAGE, else LC_ALL, LC_MESSAGES or LANG; empty where they name no language.
-class DesktopLanguages final : public Languages {
- public:
-  std::vector<std::string> preferredLanguages() const override;
-};
-
-class DesktopSystemVersion final : public SystemVersion {
- public:
-  explicit DesktopSystemVersion(const OperatingSystemVersion& version) : version_(version) {}
+  // The distribution's version, for example "12"; the kernel's if it has none.
+  std::string systemVersion() const override;
 
   bool isOperatingSystemAtLeastVersion(const OperatingSystemVersion& asked) const override {
     return version_ >= asked;
   }
 
+  // From LANGUAGE, else LC_ALL, LC_MESSAGES or LANG; empty if they name no language.
+  std::vector<std::string> preferredLanguages() const override;
+
+  // Of the primary monitor.
+  Size screenBounds() const override;
+  UserInterfaceStyle userInterfaceStyle() const override;
+
  private:
   OperatingSystemVersion version_;
+  UserInterfaceStyle style_;
 };
 
 class DesktopClock final : public Clock {
  public:
-  double timeIntervalSince1970() const override;
+  Instant now() const override;
 };
 
 class DesktopApplication final : public Application {

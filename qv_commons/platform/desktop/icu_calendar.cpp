@@ -10,15 +10,13 @@ namespace qv_commons::desktop {
 
 namespace {
 
-constexpr double kMillisecondsPerSecond = 1000;
-
 // A hundred million days, about 273,790 years, to either side of 1970: what ECMAScript's dates
 // allow. ICU loses days, or takes seconds to answer, further out.
 constexpr double kFarthestSecond = 8.64e12;
 
-bool isWithinReach(double date) {
-  return std::abs(date) <= kFarthestSecond;
-}  // false for NaN
+bool isWithinReach(Instant date) {
+  return std::abs(secondsSince1970(date)) <= kFarthestSecond;  // false for NaN
+}
 
 icu::Locale localeOf(const std::string& tag) {
   if (tag.empty()) return icu::Locale::getDefault();
@@ -40,24 +38,23 @@ IcuCalendar::IcuCalendar(const CalendarSettings& settings)
       timeZone_(
           icu::TimeZone::createTimeZone(icu::UnicodeString::fromUTF8(zoneOf(settings.timeZone)))) {}
 
-std::optional<std::int64_t> IcuCalendar::yearsBetween(double from, double to) const {
+std::optional<std::int64_t> IcuCalendar::yearsBetween(Instant from, Instant to) const {
   if (!isWithinReach(from) || !isWithinReach(to)) return std::nullopt;
   const auto calendar = makeCalendar();
   UErrorCode status = U_ZERO_ERROR;
-  calendar->setTime(from * kMillisecondsPerSecond, status);
-  const std::int32_t years =
-      calendar->fieldDifference(to * kMillisecondsPerSecond, UCAL_YEAR, status);
+  calendar->setTime(toMilliseconds(from), status);
+  const std::int32_t years = calendar->fieldDifference(toMilliseconds(to), UCAL_YEAR, status);
   if (U_FAILURE(status)) return std::nullopt;
   return years;
 }
 
-std::optional<double> IcuCalendar::dateByAddingYears(double date, int years) const {
+std::optional<Instant> IcuCalendar::dateByAddingYears(Instant date, int years) const {
   if (!isWithinReach(date)) return std::nullopt;
   const auto calendar = makeCalendar();
   UErrorCode status = U_ZERO_ERROR;
-  calendar->setTime(date * kMillisecondsPerSecond, status);
+  calendar->setTime(toMilliseconds(date), status);
   calendar->add(UCAL_YEAR, years, status);
-  const double result = calendar->getTime(status) / kMillisecondsPerSecond;
+  const Instant result = toInstant(calendar->getTime(status));
   if (U_FAILURE(status) || !isWithinReach(result)) return std::nullopt;
   return result;
 }

@@ -11,13 +11,21 @@
 
 namespace qv_commons::desktop {
 
+// ICU counts milliseconds since 1970.
+inline UDate toMilliseconds(Instant instant) {
+  return 1000 * secondsSince1970(instant);
+}
+inline Instant toInstant(UDate milliseconds) {
+  return instantAt(milliseconds / 1000);
+}
+
 class IcuCalendar final : public Calendar {
  public:
   // The locale and the zone are looked up here, once.
   explicit IcuCalendar(const CalendarSettings& settings = {});
 
-  std::optional<std::int64_t> yearsBetween(double from, double to) const override;
-  std::optional<double> dateByAddingYears(double date, int years) const override;
+  std::optional<std::int64_t> yearsBetween(Instant from, Instant to) const override;
+  std::optional<Instant> dateByAddingYears(Instant date, int years) const override;
 
   // A new calendar at each call: ICU's own is changed by the questions that it is asked.
   std::unique_ptr<icu::Calendar> makeCalendar() const;

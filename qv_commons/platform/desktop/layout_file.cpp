@@ -8,7 +8,6 @@
 #include <QUiLoader>
 #include <algorithm>
 #include <cmath>
-#include <type_traits>
 
 #include "qv_commons/platform/desktop/qt_text.h"
 #include "qv_commons/platform/desktop/scrolled_column.h"
@@ -141,12 +140,7 @@ std::vector<std::shared_ptr<View>> connectScreen(QWidget& root, LayoutScreen& sc
     auto* widget = root.findChild<QWidget*>(fromUtf8(outlet.name));
     if (widget == nullptr) continue;
     views.push_back(makeView(*widget, open));
-    std::visit(
-        [&views](auto* reference) {
-          using ViewType = typename std::remove_pointer_t<decltype(reference)>::element_type;
-          *reference = std::dynamic_pointer_cast<ViewType>(views.back());
-        },
-        outlet.reference);
+    outlet.connect(views.back());
   }
   const std::vector<Action> actions = screen.actions();
   for (QWidget* widget : root.findChildren<QWidget*>()) {

@@ -14,7 +14,7 @@
 
 #include "qv_commons/platform/desktop/icu_calendar.h"
 #include "qv_commons/platform/desktop/widget_views.h"
-#include "qv_commons/platform/layout_loader.h"
+#include "qv_commons/platform/layout_screen.h"
 
 namespace qv_commons::desktop {
 

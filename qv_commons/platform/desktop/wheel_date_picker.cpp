@@ -39,12 +39,12 @@ WheelDatePicker::WheelDatePicker(const IcuCalendar& calendar, QWidget* parent)
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
-void WheelDatePicker::setDate(double date) {
+void WheelDatePicker::setDate(Instant date) {
   date_.setDate(date);
   rearrange();
 }
 
-void WheelDatePicker::setMaximumDate(std::optional<double> maximum) {
+void WheelDatePicker::setMaximumDate(std::optional<Instant> maximum) {
   date_.setMaximumDate(maximum);
   rearrange();
 }
@@ -58,7 +58,7 @@ QSize WheelDatePicker::minimumSizeHint() const {
 }
 
 void WheelDatePicker::turn(DateField field, int row) {
-  const double before = date_.date();
+  const Instant before = date_.date();
   date_.choose(field, row);
   for (Wheel* wheel : wheels_) wheel->update();
   if (date_.date() == before) return;

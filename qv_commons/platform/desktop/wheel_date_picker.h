@@ -2,7 +2,7 @@
 //
 //     qv_commons::desktop::IcuCalendar calendar;
 //     qv_commons::desktop::WheelDatePicker picker(calendar);
-//     picker.setDate(951782400);
+//     picker.setDate(qv_commons::instantAt(951782400));
 //     picker.show();
 //
 // Its colours are the palette's WindowText over whatever it stands on; its font is its own.
@@ -26,9 +26,9 @@ class WheelDatePicker final : public QWidget {
   explicit WheelDatePicker(const IcuCalendar& calendar, QWidget* parent = nullptr);
 
   // As `DateWheels` has it; `dateChanged` is for the user's changes alone.
-  void setDate(double date);
-  void setMaximumDate(std::optional<double> maximum);
-  double date() const { return date_.date(); }
+  void setDate(Instant date);
+  void setMaximumDate(std::optional<Instant> maximum);
+  Instant date() const { return date_.date(); }
 
   // From the leading side to the trailing one.
   const std::array<Wheel*, 3>& wheels() const { return wheels_; }

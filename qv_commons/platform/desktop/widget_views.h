@@ -75,9 +75,9 @@ class PickerView final : public WidgetView<DatePicker> {
  public:
   explicit PickerView(WheelDatePicker& picker) : WidgetView(picker), picker_(picker) {}
 
-  void setMaximumDate(std::optional<double> date) override { picker_.setMaximumDate(date); }
-  void setDate(double date) override { picker_.setDate(date); }
-  double date() const override { return picker_.date(); }
+  void setMaximumDate(std::optional<Instant> date) override { picker_.setMaximumDate(date); }
+  void setDate(Instant date) override { picker_.setDate(date); }
+  Instant date() const override { return picker_.date(); }
 
  private:
   WheelDatePicker& picker_;

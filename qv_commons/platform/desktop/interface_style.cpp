@@ -1,4 +1,4 @@
-#include "qv_commons/platform/desktop/desktop_screen.h"
+#include "qv_commons/platform/desktop/interface_style.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -6,7 +6,6 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QPalette>
-#include <QScreen>
 
 namespace qv_commons::desktop {
 namespace {
@@ -52,13 +51,6 @@ UserInterfaceStyle currentUserInterfaceStyle(UserInterfaceStyle setting) {
   if (setting != UserInterfaceStyle::unspecified) return setting;
   const UserInterfaceStyle style = portalStyle();
   return style != UserInterfaceStyle::unspecified ? style : paletteStyle();
-}
-
-Size DesktopScreen::bounds() const {
-  const QScreen* screen = QGuiApplication::primaryScreen();
-  if (screen == nullptr) return {};
-  const QSizeF size = screen->geometry().size();
-  return {size.width(), size.height()};
 }
 
 }  // namespace qv_commons::desktop

@@ -1,4 +1,4 @@
-#include "qv_commons/platform/desktop/layout_node.h"
+#include "qv_commons/platform/desktop/layout_controller.h"
 
 #include <QLabel>
 #include <QLayout>
@@ -8,6 +8,7 @@
 
 #include "qv_commons/platform/desktop/desktop_style.h"
 #include "qv_commons/platform/desktop/layout_file.h"
+#include "qv_commons/platform/desktop/qt_text.h"
 #include "qv_commons/support/url.h"
 
 namespace qv_commons::desktop {
@@ -26,12 +27,12 @@ constexpr QRgb kDarkGround = 0xff000000;
 }  // namespace
 
 // The layout's root in a window of its own.
-class LayoutNode::ScreenWindow final : public QWidget {
+class LayoutController::ScreenWindow final : public QWidget {
  public:
   ScreenWindow() { column_.setContentsMargins(0, 0, 0, 0); }
 
-  void setContent(std::unique_ptr<QWidget> content) {
-    if (const auto* header = content->findChild<QLabel*>("header")) {
+  void setContent(std::unique_ptr<QWidget> content, const QString& heading) {
+    if (const auto* header = content->findChild<QLabel*>(heading)) {
       setWindowTitle(header->accessibleName());
     }
     column_.addWidget(content.release());
@@ -52,22 +53,28 @@ class LayoutNode::ScreenWindow final : public QWidget {
   QVBoxLayout column_{this};
 };
 
-LayoutNode::LayoutNode(SharedContext context, const ScreenServices& services, std::string path)
-    : DesktopNode(std::move(context)),
+LayoutController::LayoutController(SharedContext context, const ScreenServices& services,
+                                   std::string path)
+    : NativeOf(std::move(context)),
       services_(services),
       path_(std::move(path)),
       screenWindow_(std::make_unique<ScreenWindow>()) {
   attachWindow(*screenWindow_);
 }
 
-LayoutNode::~LayoutNode() = default;
+LayoutController::~LayoutController() = default;
 
-void LayoutNode::show(bool animated) {
-  if (!isLoaded_) load();
-  DesktopNode::show(animated);
+void LayoutController::setScreen(LayoutScreen& screen) {
+  screen_ = &screen;
+  setController(screen);
 }
 
-void LayoutNode::load() {
+void LayoutController::show(bool animated) {
+  if (!isLoaded_) load();
+  DesktopController::show(animated);
+}
+
+void LayoutController::load() {
   isLoaded_ = true;
   std::unique_ptr<QWidget> root = loadLayout(path_, services_.calendar, textScale());
   const LinkOpener open = [&application = services_.application](std::string_view link) {
@@ -75,10 +82,10 @@ void LayoutNode::load() {
   };
   views_ = connectScreen(*root, *screen_, open, path_);
   screen_->viewDidLoad();
-  screenWindow_->setContent(std::move(root));
+  screenWindow_->setContent(std::move(root), fromUtf8(screen_->headingOutlet()));
 }
 
-void LayoutNode::dress(UserInterfaceStyle style) {
+void LayoutController::dress(UserInterfaceStyle style) {
   const QRgb ground = style == UserInterfaceStyle::dark ? kDarkGround : kLightGround;
   QPalette palette = screenWindow_->palette();
   palette.setColor(QPalette::Window, QColor::fromRgb(ground));

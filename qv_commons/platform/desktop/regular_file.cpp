@@ -1,4 +1,4 @@
-#include "qv_commons/platform/desktop/desktop_files.h"
+#include "qv_commons/platform/desktop/regular_file.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -14,7 +14,7 @@ FileContents failure(int error) {
 
 }  // namespace
 
-FileContents DesktopFiles::read(const FileLocation& location) const {
+FileContents readRegularFile(const FileLocation& location) {
   // Opening a pipe must not wait for its writer.
   const FileDescriptor file(::open(location.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
   if (!file.isOpen()) return failure(errno);

@@ -1,5 +1,5 @@
-// The native side of every view controller of the desktop adapter: a window of its own, shown over
-// the window of whoever presents it.
+// What every view controller of the desktop adapter is: a window of its own, shown over the window
+// of whoever presents it.
 #pragma once
 
 #include <QObject>
@@ -11,19 +11,19 @@
 
 namespace qv_commons::desktop {
 
-class DesktopNode : public PresentationNode {
+class DesktopController : public NativeController {
  public:
   QWidget* window() const { return window_; }  // null once it has been destroyed
 
-  void setModalInPresentation(bool modal) override { modalInPresentation_ = modal; }
-  void setOverrideUserInterfaceStyle(UserInterfaceStyle style) override;
-  ViewController* childViewController() const override { return nullptr; }
+  void setModalInPresentation(bool modal) { modalInPresentation_ = modal; }
+  void setOverrideUserInterfaceStyle(UserInterfaceStyle style);
+  ViewController* childViewController() const { return nullptr; }
 
  protected:
-  explicit DesktopNode(SharedContext context, ViewControllerKind kind = ViewControllerKind::plain)
-      : PresentationNode(kind), context_(std::move(context)) {}
+  DesktopController(ViewController& controller, SharedContext context)
+      : NativeController(controller, context->presentations), context_(std::move(context)) {}
 
-  // Takes `window` as this node's; to be called once, by the constructor.
+  // Takes `window` as this controller's; to be called once, by the constructor.
   void attachWindow(QWidget& window);
 
   DesktopContext& context() const { return *context_; }
@@ -47,11 +47,11 @@ class DesktopNode : public PresentationNode {
   // Sees what happens to the window before the window does.
   class Watcher final : public QObject {
    public:
-    explicit Watcher(DesktopNode& node) : node_(node) {}
+    explicit Watcher(DesktopController& controller) : controller_(controller) {}
     bool eventFilter(QObject* watched, QEvent* event) override;
 
    private:
-    DesktopNode& node_;
+    DesktopController& controller_;
   };
 
   void redress();

@@ -1,4 +1,4 @@
-// The native side of the library's screens: a window whose views come from a layout.
+// The native of the library's screens: a window whose views come from a layout.
 #pragma once
 
 #include <memory>
@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "qv_commons/platform/application.h"
-#include "qv_commons/platform/desktop/desktop_node.h"
+#include "qv_commons/platform/desktop/desktop_controller.h"
 #include "qv_commons/platform/desktop/icu_calendar.h"
-#include "qv_commons/platform/layout_loader.h"
+#include "qv_commons/platform/layout_screen.h"
 
 namespace qv_commons::desktop {
 
@@ -18,17 +18,16 @@ struct ScreenServices {
   Application& application;  // opens links
 };
 
-class LayoutNode final : public DesktopNode {
+class LayoutController final : public NativeOf<ViewController, DesktopController> {
  public:
   // `path` is the layout file. It is read when the screen is first shown.
-  LayoutNode(SharedContext context, const ScreenServices& services, std::string path);
-  ~LayoutNode() override;
+  LayoutController(SharedContext context, const ScreenServices& services, std::string path);
+  ~LayoutController() override;
 
-  void setScreen(std::unique_ptr<LayoutScreen> screen) { screen_ = std::move(screen); }
-  LayoutScreen& screen() { return *screen_; }
+  // To be called once, before the first show; `screen` owns this.
+  void setScreen(LayoutScreen& screen);
 
  protected:
-  ViewController& controller() override { return *screen_; }
   void show(bool animated) override;
   void dress(UserInterfaceStyle style) override;
 
@@ -41,7 +40,7 @@ class LayoutNode final : public DesktopNode {
   std::string path_;
   std::unique_ptr<ScreenWindow> screenWindow_;
   std::vector<std::shared_ptr<View>> views_;  // gone before the widgets that they refer to
-  std::unique_ptr<LayoutScreen> screen_;
+  LayoutScreen* screen_ = nullptr;
   bool isLoaded_ = false;
 };
 

@@ -1,4 +1,4 @@
-#include "qv_commons/platform/desktop/desktop_node.h"
+#include "qv_commons/platform/desktop/desktop_controller.h"
 
 #include <QEvent>
 #include <QKeyEvent>
@@ -6,7 +6,7 @@
 #include <QWindow>
 #include <utility>
 
-#include "qv_commons/platform/desktop/desktop_screen.h"
+#include "qv_commons/platform/desktop/interface_style.h"
 
 namespace qv_commons::desktop {
 namespace {
@@ -18,50 +18,50 @@ bool isEscape(const QEvent& event) {
 
 }  // namespace
 
-bool DesktopNode::Watcher::eventFilter(QObject* watched, QEvent* event) {
+bool DesktopController::Watcher::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::ApplicationPaletteChange ||
       event->type() == QEvent::ApplicationFontChange) {
-    node_.redress();
+    controller_.redress();
   }
   const bool leaves = event->type() == QEvent::Close || isEscape(*event);
-  if (!leaves || node_.presenter() == nullptr) return QObject::eventFilter(watched, event);
+  if (!leaves || controller_.presenter() == nullptr) return QObject::eventFilter(watched, event);
   event->ignore();
-  node_.userLeaves();
+  controller_.userLeaves();
   return true;
 }
 
-void DesktopNode::attachWindow(QWidget& window) {
+void DesktopController::attachWindow(QWidget& window) {
   window_ = &window;
   window.installEventFilter(&watcher_);
 }
 
-void DesktopNode::setOverrideUserInterfaceStyle(UserInterfaceStyle style) {
+void DesktopController::setOverrideUserInterfaceStyle(UserInterfaceStyle style) {
   overrideStyle_ = style;
   redress();
 }
 
-void DesktopNode::redress() {
+void DesktopController::redress() {
   const UserInterfaceStyle wish = overrideStyle_ != UserInterfaceStyle::unspecified
                                       ? overrideStyle_
                                       : context_->settings.userInterfaceStyle;
   if (window_ != nullptr) dress(currentUserInterfaceStyle(wish));
 }
 
-void DesktopNode::place(QWidget& window, const QWidget& presenterWindow) {
+void DesktopController::place(QWidget& window, const QWidget& presenterWindow) {
   window.setGeometry(presenterWindow.geometry());
 }
 
-void DesktopNode::userLeaves() {
-  if (!modalInPresentation_) PresentationNode::dismissViewController(true, nullptr);
+void DesktopController::userLeaves() {
+  if (!modalInPresentation_) dismiss(true, nullptr);
 }
 
-void DesktopNode::show(bool) {
+void DesktopController::show(bool) {
   if (window_ == nullptr) return;
   redress();
   window_->setWindowModality(Qt::WindowModal);
   // The window has no parent, which would own it and dress it; the system learns from the transient
   // parent alone which window it belongs to and blocks.
-  const QWidget* below = static_cast<DesktopNode*>(presenter())->window();
+  const QWidget* below = static_cast<DesktopController*>(presenter())->window();
   if (below != nullptr) {
     place(*window_, *below);
     window_->winId();
@@ -71,11 +71,11 @@ void DesktopNode::show(bool) {
   window_->activateWindow();
 }
 
-void DesktopNode::hide(bool) {
+void DesktopController::hide(bool) {
   if (window_ != nullptr) window_->hide();
 }
 
-void DesktopNode::afterTransition(Completion transitionDone) {
+void DesktopController::afterTransition(Completion transitionDone) {
   QMetaObject::invokeMethod(&context_->transitions, std::move(transitionDone),
                             Qt::QueuedConnection);
 }
