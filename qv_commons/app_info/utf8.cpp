@@ -1,65 +1,51 @@
 #include "qv_commons/app_info/utf8.h"
 
+#include <algorithm>
 #include <cstddef>
-#include <cstdint>
-#include <cstring>
+#include <iterator>
 
 namespace qv_commons {
 namespace {
 
-// How many of the bytes from `at` on are ASCII, eight at a time.
-std::size_t asciiRun(std::string_view bytes, std::size_t at) {
-  constexpr std::uint64_t kHighBits = 0x8080808080808080;
-  const std::size_t start = at;
-  for (; bytes.size() - at >= sizeof(std::uint64_t); at += sizeof(std::uint64_t)) {
-    std::uint64_t chunk;
-    std::memcpy(&chunk, bytes.data() + at, sizeof(chunk));
-    if ((chunk & kHighBits) != 0) break;
-  }
-  while (at < bytes.size() && static_cast<unsigned char>(bytes[at]) < 0x80) ++at;
-  return at - start;
-}
-
-// What may follow a lead byte: how many bytes, and the bounds of the first of them, which keep out
-// overlong forms, surrogates and what lies above U+10FFFF. No bytes: not a lead byte.
-struct Continuation {
-  std::size_t count;
-  unsigned char lowest = 0x80;
-  unsigned char highest = 0xBF;
+// A row of the standard's table 3-7, for characters beyond ASCII: the bytes that may come first,
+// those that may come second then, and how many follow the first. The others are 80 to BF.
+struct Row {
+  unsigned char firstLowest, firstHighest;
+  unsigned char secondLowest, secondHighest;
+  std::size_t following;
 };
 
-Continuation continuationOf(unsigned char lead) {
-  if (lead >= 0xC2 && lead <= 0xDF) return {1};
-  if (lead == 0xE0) return {2, 0xA0, 0xBF};
-  if (lead == 0xED) return {2, 0x80, 0x9F};
-  if (lead >= 0xE1 && lead <= 0xEF) return {2};
-  if (lead == 0xF0) return {3, 0x90, 0xBF};
-  if (lead >= 0xF1 && lead <= 0xF3) return {3};
-  if (lead == 0xF4) return {3, 0x80, 0x8F};
-  return {0};
-}
+constexpr Row kTable[] = {{0xC2, 0xDF, 0x80, 0xBF, 1}, {0xE0, 0xE0, 0xA0, 0xBF, 2},
+                          {0xE1, 0xEC, 0x80, 0xBF, 2}, {0xED, 0xED, 0x80, 0x9F, 2},
+                          {0xEE, 0xEF, 0x80, 0xBF, 2}, {0xF0, 0xF0, 0x90, 0xBF, 3},
+                          {0xF1, 0xF3, 0x80, 0xBF, 3}, {0xF4, 0xF4, 0x80, 0x8F, 3}};
 
-// The length of the character beyond ASCII at the start of `bytes`; 0 where it is malformed.
+// The length of the character beyond ASCII at the start of `bytes`; 0 if it is malformed.
 std::size_t characterLength(std::string_view bytes) {
-  const auto byteAt = [&](std::size_t at) { return static_cast<unsigned char>(bytes[at]); };
-  const Continuation next = continuationOf(byteAt(0));
-  if (next.count == 0 || bytes.size() <= next.count) return 0;
-  if (byteAt(1) < next.lowest || byteAt(1) > next.highest) return 0;
-  for (std::size_t at = 2; at <= next.count; ++at) {
-    if ((byteAt(at) & 0xC0) != 0x80) return 0;
+  const auto isWithin = [&](std::size_t at, unsigned char lowest, unsigned char highest) {
+    const auto byte = static_cast<unsigned char>(bytes[at]);
+    return lowest <= byte && byte <= highest;
+  };
+  const Row* const row = std::find_if(std::begin(kTable), std::end(kTable), [&](const Row& one) {
+    return isWithin(0, one.firstLowest, one.firstHighest);
+  });
+  if (row == std::end(kTable) || bytes.size() <= row->following) return 0;
+  for (std::size_t at = 1; at <= row->following; ++at) {
+    const bool valid =
+        at == 1 ? isWithin(at, row->secondLowest, row->secondHighest) : isWithin(at, 0x80, 0xBF);
+    if (!valid) return 0;
   }
-  return next.count + 1;
+  return row->following + 1;
 }
 
 }  // namespace
 
 bool isUtf8(std::string_view bytes) {
-  std::size_t at = asciiRun(bytes, 0);
-  while (at < bytes.size()) {
-    const std::size_t length = characterLength(bytes.substr(at));
+  while (!bytes.empty()) {
+    const bool isASCII = static_cast<unsigned char>(bytes.front()) < 0x80;
+    const std::size_t length = isASCII ? 1 : characterLength(bytes);
     if (length == 0) return false;
-    at += length;
-    at += asciiRun(bytes, at);
+    bytes.remove_prefix(length);
   }
   return true;
 }

@@ -22,6 +22,57 @@ TEST(Utf8, AcceptsTheFirstAndLastCharacterOfEachLength) {
   EXPECT_TRUE(isUtf8("\xF4\x8F\xBF\xBF"));  // U+10FFFF
 }
 
+// The rows of the Unicode Standard's table 3-7: two bytes' bounds, and how many bytes follow them.
+struct Row {
+  unsigned char firstLowest, firstHighest;
+  unsigned char secondLowest, secondHighest;
+  int others;
+};
+
+constexpr Row kRows[] = {{0xC2, 0xDF, 0x80, 0xBF, 0}, {0xE0, 0xE0, 0xA0, 0xBF, 1},
+                         {0xE1, 0xEC, 0x80, 0xBF, 1}, {0xED, 0xED, 0x80, 0x9F, 1},
+                         {0xEE, 0xEF, 0x80, 0xBF, 1}, {0xF0, 0xF0, 0x90, 0xBF, 2},
+                         {0xF1, 0xF3, 0x80, 0xBF, 2}, {0xF4, 0xF4, 0x80, 0x8F, 2}};
+
+TEST(Utf8, KeepsToTheBoundsOfEachRowOfTheTable) {
+  const auto text = [](int first, int second, int others, char other) {
+    return std::string{static_cast<char>(first), static_cast<char>(second)} +
+           std::string(static_cast<std::size_t>(others), other);
+  };
+  for (const Row& row : kRows) {
+    for (const int first : {row.firstLowest, row.firstHighest}) {
+      for (const char other : {'\x80', '\xBF'}) {
+        EXPECT_TRUE(isUtf8(text(first, row.secondLowest, row.others, other))) << first;
+        EXPECT_TRUE(isUtf8(text(first, row.secondHighest, row.others, other))) << first;
+      }
+      EXPECT_FALSE(isUtf8(text(first, row.secondLowest - 1, row.others, '\x80'))) << first;
+      EXPECT_FALSE(isUtf8(text(first, row.secondHighest + 1, row.others, '\x80'))) << first;
+      for (const char other : {'\x7F', '\xC0'}) {
+        if (row.others == 0) break;
+        EXPECT_FALSE(isUtf8(text(first, row.secondLowest, row.others, other))) << first;
+        EXPECT_FALSE(isUtf8(text(first, row.secondLowest, row.others - 1, '\x80') + other));
+      }
+    }
+  }
+}
+
+TEST(Utf8, RefusesEveryOtherLeadByte) {
+  for (int lead = 0x80; lead <= 0xFF; ++lead) {
+    if (lead >= 0xC2 && lead <= 0xF4) continue;
+    for (std::size_t others = 0; others < 4; ++others) {
+      EXPECT_FALSE(isUtf8(static_cast<char>(lead) + std::string(others, '\x80'))) << lead;
+    }
+  }
+}
+
+TEST(Utf8, FindsAContinuationAtTheStartOfAMachineWord) {
+  for (const char byte : {'\x80', '\xBF', '\xFF'}) {
+    for (const std::size_t before : {0, 8, 16}) {
+      EXPECT_FALSE(isUtf8(std::string(before, 'x') + byte + "xxxxxxx")) << before;
+    }
+  }
+}
+
 TEST(Utf8, AcceptsAByteOrderMark) {
   EXPECT_TRUE(isUtf8("\xEF\xBB\xBF{}"));
 }
@@ -41,14 +92,14 @@ TEST(Utf8, RefusesSurrogates) {
   EXPECT_FALSE(isUtf8("\xED\xA0\xBD\xED\xB1\x8D"));  // a pair
 }
 
-TEST(Utf8, RefusesWhatLiesAboveTheLastCharacter) {
+TEST(Utf8, RefusesCodePointsAboveTheLast) {
   EXPECT_FALSE(isUtf8("\xF4\x90\x80\x80"));
   EXPECT_FALSE(isUtf8("\xF5\x80\x80\x80"));
   EXPECT_FALSE(isUtf8("\xFE"));
   EXPECT_FALSE(isUtf8("\xFF"));
 }
 
-TEST(Utf8, RefusesWhatIsCutShort) {
+TEST(Utf8, RefusesTruncatedCharacters) {
   EXPECT_FALSE(isUtf8("\xC3"));
   EXPECT_FALSE(isUtf8("\xE2\x82"));
   EXPECT_FALSE(isUtf8("\xF0\x9F\x91"));
