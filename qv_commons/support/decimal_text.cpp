@@ -11,8 +11,9 @@
 namespace qv_commons {
 namespace {
 
+// Below a million.
 std::string thousandthsText(unsigned thousandths) {
-  std::array<char, 16> text;
+  std::string text("999999.999");
   char* out = std::to_chars(text.data(), text.data() + text.size(), thousandths / 1000).ptr;
   *out++ = '.';
   unsigned fraction = thousandths % 1000;
@@ -20,7 +21,8 @@ std::string thousandthsText(unsigned thousandths) {
     *out++ = static_cast<char>('0' + fraction / 100);
     fraction = fraction % 100 * 10;
   } while (fraction != 0);
-  return {text.data(), out};
+  text.erase(static_cast<std::size_t>(out - text.data()));
+  return text;
 }
 
 // The number digits * 10^exponent.

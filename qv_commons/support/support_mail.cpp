@@ -10,73 +10,57 @@
 namespace qv_commons {
 namespace {
 
-constexpr std::string_view kSeparator = ", ";
-
-// The texts with separators between them.
-struct Joined {
-  std::span<const std::string> texts;
-};
-
-std::size_t sizeOf(std::string_view text) {
-  return text.size();
-}
-
-std::size_t sizeOf(Joined list) {
-  std::size_t size = list.texts.empty() ? 0 : (list.texts.size() - 1) * kSeparator.size();
-  for (const std::string& text : list.texts) size += text.size();
-  return size;
-}
-
-// Each of these writes at `out` and gives the end.
-
-// The first characters and the last ones, as many each; those in the middle perhaps twice.
+// Copies the first characters and the last ones, as many each; those in the middle perhaps twice.
 template <std::size_t count>
-char* writeBothEnds(char* out, std::string_view text) {
+void copyBothEnds(char* out, std::string_view text) {
   std::memcpy(out, text.data(), count);
-  out += text.size();
-  std::memcpy(out - count, text.data() + text.size() - count, count);
-  return out;
+  std::memcpy(out + text.size() - count, text.data() + text.size() - count, count);
 }
 
-// Names, identifiers and versions are short, and a call that copies one takes longer than the copy.
+// Gives the end. Names, identifiers and versions are short, and a call that copies one takes longer
+// than the copy.
 inline char* write(char* out, std::string_view text) {
-  if (text.size() >= 4 && text.size() <= 32) {
-    if (text.size() >= 16) return writeBothEnds<16>(out, text);
-    return text.size() >= 8 ? writeBothEnds<8>(out, text) : writeBothEnds<4>(out, text);
+  const std::size_t size = text.size();
+  if (size < 4 || size > 32) return std::copy(text.begin(), text.end(), out);
+  if (size >= 16) {
+    copyBothEnds<16>(out, text);
+  } else if (size >= 8) {
+    copyBothEnds<8>(out, text);
+  } else {
+    copyBothEnds<4>(out, text);
   }
-  return std::copy(text.begin(), text.end(), out);
+  return out + size;
 }
 
-char* write(char* out, Joined list) {
-  for (const std::string& text : list.texts) {
-    if (&text != list.texts.data()) out = write(out, kSeparator);
-    out = write(out, text);
+// Calls `take` with the pieces of the body, one after the other.
+template <class Take>
+void forEachPiece(const SupportMailInputs& inputs, std::string_view width, std::string_view height,
+                  Take take) {
+  take(inputs.openingMessage.value_or("Reason for contacting support:"));
+  take("\n\n\n\n\n\n\n\n\nApp ID: "), take(inputs.appId);
+  take("\nDevice: "), take(inputs.localizedModel), take(" os:  "), take(inputs.systemVersion);
+  take(" size: "), take(width), take("x"), take(height);
+  take(" locale: "), take(inputs.preferredLanguage);
+  take("\nApp version: "), take(inputs.appVersion);
+  take("\nIAP: "), take(inputs.purchases.empty() ? "No " : "Yes ");
+  for (const std::string& purchase : inputs.purchases) {
+    if (&purchase != inputs.purchases.data()) take(", ");
+    take(purchase);
   }
-  return out;
-}
-
-// One after the other, in one allocation. Where a piece is a literal, the compiler knows its size
-// and copies it without a call.
-template <class... Pieces>
-std::string concatenated(const Pieces&... pieces) {
-  std::string text((sizeOf(pieces) + ...), '\0');
-  char* out = text.data();
-  ((out = write(out, pieces)), ...);
-  return text;
+  take("\n"), take(inputs.additionalMetadata.value_or(""));
 }
 
 }  // namespace
 
 std::string supportMailBody(const SupportMailInputs& inputs) {
-  const std::string_view question = "Reason for contacting support:";
   const std::string width = decimalText(inputs.screenSize.width);
   const std::string height = decimalText(inputs.screenSize.height);
-  return concatenated(
-      inputs.openingMessage.value_or(question), "\n\n\n\n\n\n\n\n\nApp ID: ", inputs.appId,
-      "\nDevice: ", inputs.localizedModel, " os:  ", inputs.systemVersion, " size: ", width, "x",
-      height, " locale: ", inputs.preferredLanguage, "\nApp version: ", inputs.appVersion,
-      "\nIAP: ", inputs.purchases.empty() ? "No " : "Yes ", Joined{inputs.purchases}, "\n",
-      inputs.additionalMetadata.value_or(""));
+  std::size_t size = 0;
+  forEachPiece(inputs, width, height, [&](std::string_view piece) { size += piece.size(); });
+  std::string body(size, '\0');
+  char* out = body.data();
+  forEachPiece(inputs, width, height, [&](std::string_view piece) { out = write(out, piece); });
+  return body;
 }
 
 MailAttachment supportMailAttachment(std::string_view receipt) {
