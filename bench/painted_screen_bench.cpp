@@ -44,7 +44,7 @@ double millisecondsSince(Clock::time_point start) {
 }
 
 // Prints how long the screen took to come up, in a process that has done nothing before; fails
-// where its window was not painted exactly once.
+// if its window was not painted exactly once.
 template <class Screen>
 void showFirst() {
   startQt();

@@ -98,7 +98,7 @@ def page_text(contests, sentence, compiler):
 
 def main():
     build = pathlib.Path(sys.argv[1])
-    results = json.loads((build / "results.json").read_text() or '{"benchmarks": []}')  # empty where nothing matched
+    results = json.loads((build / "results.json").read_text() or '{"benchmarks": []}')  # empty if nothing matched
     contests = medians(results)
     if not any(OURS in times for times in contests.values()):
         sys.exit("No contest with %s in it was timed. Its name is work/inputs/contender." % OURS)

@@ -41,7 +41,7 @@ class Report(unittest.TestCase):
         works = [row[0] for row in report.rows(report.medians({"benchmarks": peers}))]
         self.assertEqual(works, ["write", "show"])
 
-    def test_says_so_where_nothing_was_timed(self):
+    def test_says_so_if_nothing_was_timed(self):
         for text in ("", json.dumps({"benchmarks": [measurement("read/second/slow", 0, items_per_second=1e6)]})):
             with tempfile.TemporaryDirectory() as build:
                 pathlib.Path(build, "results.json").write_text(text)

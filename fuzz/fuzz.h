@@ -16,7 +16,7 @@ inline std::string_view textOf(const std::uint8_t* data, std::size_t size) {
   return {reinterpret_cast<const char*>(data), size};
 }
 
-// Ends the process, naming `claim`, where it does not hold.
+// Ends the process and prints `claim` if it does not hold.
 inline void check(bool holds, const char* claim) {
   if (holds) return;
   std::fprintf(stderr, "not true: %s\n", claim);

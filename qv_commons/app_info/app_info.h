@@ -1,8 +1,8 @@
-// The host app's particulars, read from a given bundle.
+// An app's version, identifier and display name, from its bundle.
 //
 //     std::string version = qv_commons::appVersionOf(platform.mainBundle());
 //
-// `QV_AppInfoHelper` says what each gives; this is the same for callers that hold a bundle.
+// For callers that have a bundle; `QV_AppInfoHelper` says what each gives.
 #pragma once
 
 #include <string>

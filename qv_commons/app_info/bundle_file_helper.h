@@ -20,14 +20,14 @@ namespace qv_commons {
 
 class QV_BundleFileHelper {
  public:
-  // "QV_Commons_iOS.bundle" next to the library's code; null where it is missing or can't be
-  // opened, without a message.
+  // "QV_Commons_iOS.bundle" next to the library's code; null, without a message, if it is missing
+  // or can't be opened.
   static std::shared_ptr<Bundle> getQVCommonsResourceBundle();
 
   // The text of the main bundle's file `filename` with ".json" after it, exactly as it is in the
-  // file: neither parsed nor checked. `filename` is the name without the extension: "words.json"
-  // looks for "words.json.json". Nothing where there is no such file; nothing, and one line on the
-  // console, where it can't be read or is not UTF-8.
+  // file, not parsed. `filename` is the name without the extension: "words.json"
+  // looks for "words.json.json". std::nullopt if there is no such file; std::nullopt and one line
+  // on the console if it can't be read or is not UTF-8.
   static std::optional<std::string> loadJsonFromBundle(std::string_view filename);
 };
 

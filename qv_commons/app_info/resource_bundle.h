@@ -1,4 +1,4 @@
-// The library's resource bundle, for callers that hold the bundles.
+// The library's resource bundle, for callers that have the bundles.
 //
 //     auto resources = qv_commons::resourceBundleOf(platform.bundles());
 //

@@ -8,8 +8,8 @@
 
 namespace qv_commons {
 
-// Four characters for every three bytes begun; the empty text for no bytes. One allocation, that of
-// the result. Pure; any thread.
+// Four characters for every three bytes begun; "" for no bytes. One allocation, that of the result.
+// Any thread.
 std::string base64Encoded(std::string_view bytes);
 
 }  // namespace qv_commons

@@ -3,8 +3,7 @@
 //     std::string address = qv_commons::QV_Links::privacyPolicy().text();
 //
 // Their host is a constant of the build: the CMake option QV_COMMONS_MAKER_HOST, "www.example.com"
-// where a family does not set its own. Nothing fails, and every call gives an equal URL. Any
-// thread.
+// unless a family sets its own. Every call gives an equal URL, and none fails. Any thread.
 #pragma once
 
 #include "qv_commons/support/url.h"

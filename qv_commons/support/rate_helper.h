@@ -12,9 +12,9 @@ class QV_RateHelper {
   // Asks the system to open
   // "itms-apps://apps.apple.com/app/" + `appId` + "?mt=8&action=write-review".
   //
-  // `appId` goes in exactly as passed, for example "id123456789": no prefix is added, nothing is
-  // encoded; an empty one opens the page "/app/". Where the link is no valid URL (a space in
-  // `appId`, say), nothing is opened. Nothing is reported in any case. Main thread.
+  // `appId` goes in exactly as passed, for example "id123456789", without a prefix or encoding; an
+  // empty one opens the page "/app/". If the link is not a valid URL (because of a space in
+  // `appId`, say), nothing is opened. No failure is reported. Main thread.
   static void openWriteReviewOnAppStore(const std::string& appId);
 };
 

@@ -19,26 +19,26 @@ void presentCannotSendAlert(ViewControllers& viewControllers, ViewController& vi
   viewController.presentViewController(std::move(alert), true, nullptr);
 }
 
+std::string preferredLanguageOf(const Device& device) {
+  const std::vector<std::string> languages = device.preferredLanguages();
+  return languages.empty() ? "" : languages.front();
+}
+
+// The texts live until the body is made.
 std::string composeBody(const Platform& platform, const std::vector<std::string>& purchases,
                         std::optional<std::string_view> openingMessage,
                         std::optional<std::string_view> additionalMetadata) {
   const Bundle& bundle = platform.bundles.mainBundle();
-  const std::string appId = appIdOf(bundle);
-  const std::string localizedModel = platform.device.localizedModel();
-  const std::string systemVersion = platform.device.systemVersion();
-  const Size screenSize = platform.device.screenBounds();
-  const std::vector<std::string> languages = platform.device.preferredLanguages();
-  const std::string appVersion = appVersionOf(bundle);
-  return supportMailBody(
-      {.openingMessage = openingMessage,
-       .appId = appId,
-       .localizedModel = localizedModel,
-       .systemVersion = systemVersion,
-       .screenSize = screenSize,
-       .preferredLanguage = languages.empty() ? std::string_view() : languages.front(),
-       .appVersion = appVersion,
-       .purchases = purchases,
-       .additionalMetadata = additionalMetadata});
+  const Device& device = platform.device;
+  return supportMailBody({.openingMessage = openingMessage,
+                          .appId = appIdOf(bundle),
+                          .localizedModel = device.localizedModel(),
+                          .systemVersion = device.systemVersion(),
+                          .screenSize = device.screenBounds(),
+                          .preferredLanguage = preferredLanguageOf(device),
+                          .appVersion = appVersionOf(bundle),
+                          .purchases = purchases,
+                          .additionalMetadata = additionalMetadata});
 }
 
 void attachReceipt(const Platform& platform, MailComposer& composer) {
@@ -89,8 +89,8 @@ void QV_SupportHelper::contactSupport(ViewController& viewController, const std:
 void QV_SupportHelper::mailComposeController(MailComposer& controller, MailComposeResult,
                                              const std::string&) {
   controller.dismissViewController(true, [self = shared_from_this()] {
-    if (std::shared_ptr<QV_SupportHelperDelegate> told = self->delegate_.lock()) {
-      told->onCompletion();
+    if (const std::shared_ptr<QV_SupportHelperDelegate> delegate = self->delegate()) {
+      delegate->onCompletion();
     }
     self->delegate_.reset();
   });

@@ -1,4 +1,4 @@
-// The support e-mail: opens a pre-filled mail composer, or an alert where no mail can be sent.
+// The support e-mail: opens a pre-filled mail composer, or an alert if no mail can be sent.
 //
 //     struct Host : qv_commons::QV_SupportHelperDelegate {
 //       void onCompletion() override {}  // the composer is gone
@@ -44,25 +44,24 @@ class QV_SupportHelper final : public MailComposeDelegate,
 
   // Opens a composer on `viewController`, addressed to `email` as it stands, with `subject`, the
   // body of `supportMailBody` and the store's receipt attached, if there is one. A receipt that
-  // can't be read is left out, with one line on the console. Where the device can't send mail,
-  // shows an alert in its place and leaves everything else alone: `delegate` is neither kept nor
-  // told.
+  // can't be read is left out, with one line on the console. If the device can't send mail, only
+  // shows an alert: `delegate` is neither kept nor called.
   //
   // There is one delegate slot: a request made while a composer is open replaces its delegate, and
-  // the first composer to finish tells that one and empties the slot. `delegate` may be empty, and
-  // one that is gone when the composer closes is skipped.
+  // the first composer to finish calls that one and empties the slot. `delegate` may be empty, and
+  // one that has expired when the composer closes is skipped.
   void contactSupport(ViewController& viewController, const std::string& email,
                       const std::string& subject, const std::vector<std::string>& purchases,
                       std::optional<std::string_view> openingMessage,
                       std::optional<std::string_view> additionalMetadata,
                       std::weak_ptr<QV_SupportHelperDelegate> delegate);
 
-  // The composer's callback, not for hosts: takes the composer away, then tells the delegate and
+  // The composer's callback, not for hosts: dismisses the composer, then calls the delegate and
   // empties the slot. Every outcome is treated alike.
   void mailComposeController(MailComposer& controller, MailComposeResult result,
                              const std::string& error) override;
 
-  // The object to tell when the current composition ends; null where there is none or it is gone.
+  // The object to call when the current composition ends; null if there is none or it has expired.
   std::shared_ptr<QV_SupportHelperDelegate> delegate() const { return delegate_.lock(); }
 
  private:

@@ -113,7 +113,7 @@ bool readInteger(std::string_view text, std::int64_t& value) {
   return error == std::errc() && at == end;
 }
 
-// False if the product or the sum leaves 64 bits.
+// False if the product or the sum overflows.
 bool addProduct(std::int64_t& sum, std::int64_t value, std::int64_t factor) {
   using Limits = std::numeric_limits<std::int64_t>;
   if (value > Limits::max() / factor || value < Limits::min() / factor) return false;

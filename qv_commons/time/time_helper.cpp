@@ -8,13 +8,11 @@
 namespace qv_commons {
 namespace {
 
-// Toward zero. No real clock leaves 64 bits; one that does gets their nearest end.
-template <class Integer>
-Integer truncated(double value) {
-  constexpr double kEnd = 0x1p63;
-  if (!(value < kEnd)) return std::numeric_limits<Integer>::max();
-  if (value < -kEnd) return std::numeric_limits<Integer>::min();
-  return static_cast<Integer>(value);
+// Toward zero, and to the nearest of 64 bits, which no real clock exceeds.
+std::int64_t truncated(double value) {
+  if (!(value < 0x1p63)) return std::numeric_limits<std::int64_t>::max();
+  if (value < -0x1p63) return std::numeric_limits<std::int64_t>::min();
+  return static_cast<std::int64_t>(value);
 }
 
 double secondsNow() {
@@ -24,17 +22,17 @@ double secondsNow() {
 }  // namespace
 
 std::int64_t QV_TimeHelper::currentTimeInMilliseconds() {
-  return truncated<std::int64_t>(secondsNow() * 1000.0);
+  return truncated(secondsNow() * 1000.0);
 }
 
 PlatformInteger QV_TimeHelper::currentTimeInSeconds() {
-  return truncated<PlatformInteger>(secondsNow());
+  return truncated(secondsNow());
 }
 
 std::int64_t QV_TimeHelper::secondsToMinutes(std::int64_t seconds, bool roundUp) {
   const std::int64_t minutes = seconds / 60;
   const std::int64_t rest = seconds % 60;
-  return roundUp && rest > 1 ? minutes + 1 : minutes;  // one second more is let go, on purpose
+  return roundUp && rest > 1 ? minutes + 1 : minutes;  // a rest of one second is dropped, too
 }
 
 PlatformInteger QV_TimeHelper::secondsToDays(PlatformInteger seconds) {

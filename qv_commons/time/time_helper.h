@@ -16,8 +16,8 @@
 
 namespace qv_commons {
 
-// The platform's plain integer: 64 bits wide, as `std::int64_t` is, though on some systems another
-// type. Where a plain integer has 32 bits, it is `std::int64_t`.
+// The platform's plain integer if that has 64 bits, which need not be the same type as
+// `std::int64_t`; otherwise `std::int64_t`.
 using PlatformInteger =
     std::conditional_t<sizeof(std::ptrdiff_t) == 8, std::ptrdiff_t, std::int64_t>;
 
@@ -25,11 +25,11 @@ class QV_TimeHelper {
  public:
   // Milliseconds since 1970-01-01 00:00:00 UTC, for example 1700000000123. The clock's seconds
   // times 1000.0, cut off and never rounded: a reading of 1.001 s gives 1000, because the product
-  // in double precision is 1000.9999999999999. Follows the wall clock when that is set back.
+  // in double precision is 1000.9999999999999. Goes back if the wall clock is set back.
   static std::int64_t currentTimeInMilliseconds();
 
-  // Whole seconds since the same instant, cut off: 1700000000 at 1700000000.9 s. A reading of its
-  // own, so it need not agree with one in milliseconds taken just before.
+  // Whole seconds since the same instant, cut off: 1700000000 at 1700000000.9 s. Reads the clock
+  // anew, so the result may differ from that of a call in milliseconds just before.
   static PlatformInteger currentTimeInSeconds();
 
   // Whole minutes, cut off toward zero: 119 gives 1, -61 gives -1. With `roundUp`, a rest of more
@@ -40,9 +40,9 @@ class QV_TimeHelper {
   static PlatformInteger secondsToDays(PlatformInteger seconds);
 
   // Minutes and seconds, each of two characters at least, and from one hour on the hours before
-  // them: "02:05", "1:02:05", "100:00:00". There are no days. Where the duration is negative, every
+  // them: "02:05", "1:02:05", "100:00:00". There are no days. In a negative duration, every
   // field that is not zero has its sign: -3725 gives "-1:-2:-5". The hour count is read as 32 bits,
-  // so 2147483648 hours give "-2147483648:00:00". Allocates nothing up to 15 characters.
+  // so 2147483648 hours give "-2147483648:00:00". No allocation up to 15 characters.
   static std::string secondsToHms(std::int64_t seconds);
 
   // The same figures without colons and leading zeros, as one number: 3725 gives "10205", 59 gives
@@ -55,10 +55,10 @@ class QV_TimeHelper {
   // three the last three do: "1::30" gives 90, "1:2:3:4" gives 7384. What follows a full stop in
   // the last field is ignored: "1:30.75" gives 90.
   //
-  // A text that can't be read, or whose sum leaves 64 bits, is a fatal error. Allocates nothing.
+  // A text that can't be read, or whose sum overflows 64 bits, is a fatal error. No allocation.
   static std::int64_t hmsToSeconds(std::string_view text);
 
-  // The same, but nothing in place of the fatal error.
+  // The same, but std::nullopt instead of the fatal error.
   static std::optional<std::int64_t> tryHmsToSeconds(std::string_view text);
 };
 

@@ -30,7 +30,7 @@ TEST_F(AppInfo, AlwaysWritesTheParentheses) {
   EXPECT_EQ(QV_AppInfoHelper::appVersion(), "(317)");
 }
 
-TEST_F(AppInfo, TakesNoNumberForAText) {
+TEST_F(AppInfo, TreatsANumberAsMissing) {
   bundle.info["CFBundleShortVersionString"] = std::string("1.0");
   for (const InfoDictionaryValue& value :
        {InfoDictionaryValue(std::int64_t{317}), InfoDictionaryValue(3.5), InfoDictionaryValue(true),
@@ -55,14 +55,14 @@ TEST_F(AppInfo, ReadsTheDisplayNameAndNoOtherKey) {
   EXPECT_EQ(QV_AppInfoHelper::appName(), "");
 }
 
-TEST_F(AppInfo, TakesTheIdentifierFromTheBundleAndNotFromAKey) {
+TEST_F(AppInfo, ReadsTheIdentifierFromTheBundleAndNotFromAKey) {
   bundle.info["CFBundleIdentifier"] = std::string("com.example.key");
   EXPECT_EQ(QV_AppInfoHelper::appId(), "");
   bundle.identifier = "com.example.notes";
   EXPECT_EQ(QV_AppInfoHelper::appId(), "com.example.notes");
 }
 
-TEST_F(AppInfo, ReadsAfreshAtEveryCall) {
+TEST_F(AppInfo, ReadsTheBundleAtEveryCall) {
   memory.record().clear();
   QV_AppInfoHelper::appVersion();
   QV_AppInfoHelper::appVersion();

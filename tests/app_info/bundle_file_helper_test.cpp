@@ -37,20 +37,20 @@ TEST_F(BundleFiles, GiveTheLibrarysResourceBundle) {
                           "bundles.bundleWithURL /library/QV_Commons_iOS.bundle"));
 }
 
-TEST_F(BundleFiles, LookTheResourceBundleUpAtEachCall) {
+TEST_F(BundleFiles, LookUpTheResourceBundleAtEachCall) {
   QV_BundleFileHelper::getQVCommonsResourceBundle();
   platform.bundles().library().resources.clear();
   EXPECT_EQ(QV_BundleFileHelper::getQVCommonsResourceBundle(), nullptr);
 }
 
-TEST_F(BundleFiles, GiveNoResourceBundleWhereTheLibraryHasNone) {
+TEST_F(BundleFiles, GiveNoResourceBundleIfTheLibraryHasNone) {
   platform.bundles().library().resources.clear();
   EXPECT_EQ(QV_BundleFileHelper::getQVCommonsResourceBundle(), nullptr);
   EXPECT_THAT(platform.record().lines(),
               ElementsAre("libraryBundle.URLForResource QV_Commons_iOS.bundle"));
 }
 
-TEST_F(BundleFiles, GiveNoResourceBundleWhereItCannotBeOpened) {
+TEST_F(BundleFiles, GiveNoResourceBundleIfItCannotBeOpened) {
   platform.bundles().openable.clear();
   EXPECT_EQ(QV_BundleFileHelper::getQVCommonsResourceBundle(), nullptr);
   EXPECT_THAT(platform.console().lines, IsEmpty());
@@ -69,7 +69,7 @@ TEST_F(BundleFiles, GiveTheExactTextOfAJsonFile) {
                                                      "bundles.read /app/config.json"));
 }
 
-TEST_F(BundleFiles, GiveTextThatIsNoJson) {
+TEST_F(BundleFiles, GiveTextThatIsNotJson) {
   add("broken.json", {"{ not json", ""});
   add("empty.json", {"", ""});
   add("nul.json", {"\0{}\0"s, ""});
@@ -81,7 +81,7 @@ TEST_F(BundleFiles, GiveTextThatIsNoJson) {
   EXPECT_THAT(platform.console().lines, IsEmpty());
 }
 
-TEST_F(BundleFiles, SayNothingOfAMissingFile) {
+TEST_F(BundleFiles, PrintNothingAboutAMissingFile) {
   EXPECT_EQ(load("config"), std::nullopt);
   EXPECT_THAT(platform.record().lines(), ElementsAre("mainBundle.URLForResource config.json"));
 }
@@ -126,14 +126,14 @@ TEST_F(BundleFiles, ReportAFileThatCannotBeReadWithoutSayingWhy) {
               ElementsAre("QV_BundleFileHelper - Error!! Unable to parse  settings.json"));
 }
 
-TEST_F(BundleFiles, ReportAFileThatWentAwayMeanwhile) {
+TEST_F(BundleFiles, ReportAFileThatWasDeletedMeanwhile) {
   platform.mainBundle().resources["gone.json"] = "/app/gone.json";
   EXPECT_EQ(load("gone"), std::nullopt);
   EXPECT_THAT(platform.console().lines,
               ElementsAre("QV_BundleFileHelper - Error!! Unable to parse  gone.json"));
 }
 
-TEST_F(BundleFiles, HandOnAFileOfAHundredMegabytesWithoutACopy) {
+TEST_F(BundleFiles, MoveAFileOfAHundredMegabytesWithoutACopy) {
   constexpr std::size_t kSize = 100'000'000;
   std::string text(kSize, 'x');
   text.replace(kSize - 2, 2, "\xC3\xA9");

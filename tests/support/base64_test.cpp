@@ -58,7 +58,7 @@ TEST(Base64, AgreesWithOpenSSLAtEverySize) {
   }
 }
 
-TEST(Base64, AllocatesItsResultAndNothingElse) {
+TEST(Base64, AllocatesOnlyItsResult) {
   const std::string bytes(100 * 1000 * 1000, 'x');
   const test::AllocationCounter counter;
   const std::string text = base64Encoded(bytes);

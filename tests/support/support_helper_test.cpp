@@ -14,11 +14,11 @@ using memory::MemoryController;
 using Lines = std::vector<std::string>;
 
 struct Host : QV_SupportHelperDelegate {
-  int told = 0;
-  std::function<void()> whenTold;
+  int calls = 0;
+  std::function<void()> onCall;
   void onCompletion() override {
-    ++told;
-    if (whenTold) whenTold();
+    ++calls;
+    if (onCall) onCall();
   }
 };
 
@@ -70,7 +70,7 @@ TEST_F(SupportHelper, DoesAllInOrder) {
   EXPECT_EQ(memory.record().lines(),
             (Lines{"composer1.dismissViewController animated, with completion"}));
   EXPECT_FALSE(composer(0).isOnScreen());
-  EXPECT_EQ(host->told, 1);
+  EXPECT_EQ(host->calls, 1);
 }
 
 TEST_F(SupportHelper, FillsTheComposer) {
@@ -105,7 +105,7 @@ TEST_F(SupportHelper, LeavesEmptyWhatIsMissing) {
             "Device: iPhone os:  14.4 size: 375.0x667.0 locale: \nApp version: ()\nIAP: No \n");
 }
 
-TEST_F(SupportHelper, ShowsAnAlertWhereNoMailCanBeSent) {
+TEST_F(SupportHelper, ShowsAnAlertIfNoMailCanBeSent) {
   memory.viewControllers().mailAvailable = false;
   contact(host);
   EXPECT_EQ(memory.record().lines(),
@@ -119,23 +119,23 @@ TEST_F(SupportHelper, ShowsAnAlertWhereNoMailCanBeSent) {
   memory.viewControllers().alerts().at(0)->tap(0);
   EXPECT_FALSE(memory.viewControllers().alerts().at(0)->isOnScreen());
   EXPECT_EQ(helper->delegate(), nullptr);
-  EXPECT_EQ(host->told, 0);
+  EXPECT_EQ(host->calls, 0);
 }
 
-TEST_F(SupportHelper, KeepsTheEarlierDelegateWhereNoMailCanBeSent) {
+TEST_F(SupportHelper, KeepsTheEarlierDelegateIfNoMailCanBeSent) {
   contact(host);
   memory.viewControllers().mailAvailable = false;
   contact(std::make_shared<Host>());
   EXPECT_EQ(helper->delegate(), host);
 }
 
-TEST_F(SupportHelper, AttachesNothingWhereThereIsNoReceiptLocation) {
+TEST_F(SupportHelper, AttachesNothingIfThereIsNoReceiptLocation) {
   contact(host);
   EXPECT_TRUE(composer(0).message().attachments.empty());
   EXPECT_TRUE(memory.console().lines.empty());
 }
 
-TEST_F(SupportHelper, SaysWhyAReceiptCannotBeReadAndGoesOn) {
+TEST_F(SupportHelper, PrintsWhyAReceiptCannotBeReadAndGoesOn) {
   memory.mainBundle().receiptLocation = "receipt";
   memory.bundles().files["receipt"] = {std::nullopt, "Is a directory"};
   contact(host);
@@ -152,29 +152,29 @@ TEST_F(SupportHelper, AttachesAnEmptyReceiptAsAnEmptyFile) {
   EXPECT_EQ(composer(0).message().attachments[0].data, "");
 }
 
-TEST_F(SupportHelper, TellsTheDelegateOnceWhateverTheOutcome) {
+TEST_F(SupportHelper, CallsTheDelegateOnceWhateverTheOutcome) {
   for (auto result : {MailComposeResult::cancelled, MailComposeResult::saved,
                       MailComposeResult::sent, MailComposeResult::failed}) {
-    const int before = host->told;
+    const int before = host->calls;
     contact(host);
     memory.viewControllers().composers().back()->finish(result, "an error");
-    EXPECT_EQ(host->told, before + 1);
+    EXPECT_EQ(host->calls, before + 1);
     EXPECT_EQ(helper->delegate(), nullptr);
   }
 }
 
-TEST_F(SupportHelper, TellsTheDelegateOnlyAfterTheComposerIsGone) {
+TEST_F(SupportHelper, CallsTheDelegateOnlyAfterTheComposerIsGone) {
   memory.transitions().setByHand(true);
   contact(host);
   composer(0).finish(MailComposeResult::sent);
-  EXPECT_EQ(host->told, 0);
+  EXPECT_EQ(host->calls, 0);
   EXPECT_EQ(helper->delegate(), host);
   memory.transitions().runNext();
-  EXPECT_EQ(host->told, 1);
+  EXPECT_EQ(host->calls, 1);
   EXPECT_EQ(helper->delegate(), nullptr);
 }
 
-TEST_F(SupportHelper, SkipsADelegateThatIsGone) {
+TEST_F(SupportHelper, SkipsADelegateThatHasExpired) {
   memory.transitions().setByHand(true);
   contact(host);
   composer(0).finish(MailComposeResult::sent);
@@ -185,41 +185,41 @@ TEST_F(SupportHelper, SkipsADelegateThatIsGone) {
   EXPECT_FALSE(composer(0).isOnScreen());
 }
 
-TEST_F(SupportHelper, TakesAnAbsentDelegate) {
+TEST_F(SupportHelper, WorksWithoutADelegate) {
   contact(host);
   contact({});
   EXPECT_EQ(helper->delegate(), nullptr);
   composer(1).finish(MailComposeResult::cancelled);
-  EXPECT_EQ(host->told, 0);
+  EXPECT_EQ(host->calls, 0);
   EXPECT_FALSE(composer(1).isOnScreen());
 }
 
-TEST_F(SupportHelper, TellsNobodyAtASecondFinish) {
+TEST_F(SupportHelper, CallsNobodyAtASecondFinish) {
   contact(host);
   composer(0).finish(MailComposeResult::sent);
   composer(0).finish(MailComposeResult::sent);
-  EXPECT_EQ(host->told, 1);
+  EXPECT_EQ(host->calls, 1);
 }
 
-TEST_F(SupportHelper, TellsTheSecondRequestsDelegateAtTheFirstFinish) {
+TEST_F(SupportHelper, CallsTheSecondRequestsDelegateAtTheFirstFinish) {
   const auto second = std::make_shared<Host>();
   contact(host);
   contact(second);
   composer(0).finish(MailComposeResult::sent);
-  EXPECT_EQ(host->told, 0);
-  EXPECT_EQ(second->told, 1);
+  EXPECT_EQ(host->calls, 0);
+  EXPECT_EQ(second->calls, 1);
   EXPECT_FALSE(composer(0).isOnScreen());
   EXPECT_TRUE(composer(1).isOnScreen());
 
   composer(1).finish(MailComposeResult::sent);
-  EXPECT_EQ(host->told, 0);
-  EXPECT_EQ(second->told, 1);
+  EXPECT_EQ(host->calls, 0);
+  EXPECT_EQ(second->calls, 1);
   EXPECT_FALSE(composer(1).isOnScreen());
 }
 
-TEST_F(SupportHelper, EmptiesTheSlotAfterTheDelegateWasTold) {
+TEST_F(SupportHelper, EmptiesTheSlotAfterTheDelegateWasCalled) {
   const auto second = std::make_shared<Host>();
-  host->whenTold = [&] {
+  host->onCall = [&] {
     EXPECT_EQ(helper->delegate(), host);
     contact(second);
   };
@@ -227,7 +227,7 @@ TEST_F(SupportHelper, EmptiesTheSlotAfterTheDelegateWasTold) {
   composer(0).finish(MailComposeResult::sent);
   EXPECT_EQ(helper->delegate(), nullptr);
   composer(1).finish(MailComposeResult::sent);
-  EXPECT_EQ(second->told, 0);
+  EXPECT_EQ(second->calls, 0);
 }
 
 TEST_F(SupportHelper, GivesEachInstanceASlotOfItsOwn) {
@@ -244,18 +244,18 @@ TEST_F(SupportHelper, LivesUntilTheDismissalIsDone) {
   composer(0).finish(MailComposeResult::sent);
   helper.reset();
   memory.transitions().runAll();
-  EXPECT_EQ(host->told, 1);
+  EXPECT_EQ(host->calls, 1);
 }
 
 TEST_F(SupportHelper, FollowsAScriptedOutcome) {
   memory.viewControllers().mailOutcome = MailComposeResult::cancelled;
   contact(host);
-  EXPECT_EQ(host->told, 1);
+  EXPECT_EQ(host->calls, 1);
   EXPECT_FALSE(composer(0).isOnScreen());
   EXPECT_EQ(home->presentedViewController(), nullptr);
 }
 
-TEST_F(SupportHelper, PassesOnWhatTheHostGivesWithoutACheck) {
+TEST_F(SupportHelper, PassesOnInputsUnchecked) {
   helper->contactSupport(*home, "a\r\nBcc: b@example.com", "x\ny", {}, std::nullopt, std::nullopt,
                          host);
   EXPECT_EQ(composer(0).message().toRecipients, (Lines{"a\r\nBcc: b@example.com"}));

@@ -38,7 +38,7 @@ TEST(SupportMailBody, ReadsLineByLine) {
             "User: 42");
 }
 
-TEST(SupportMailBody, KeepsItsLabelsWhereNothingIsKnown) {
+TEST(SupportMailBody, KeepsItsLabelsForEmptyInputs) {
   EXPECT_EQ(supportMailBody({}),
             "Reason for contacting support:\n\n\n\n\n\n\n\n\nApp ID: \n"
             "Device:  os:   size: 0.0x0.0 locale: \n"

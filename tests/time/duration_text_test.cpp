@@ -83,7 +83,7 @@ TEST(DurationText, ReadsTheHourCountAs32Bits) {
   }
 }
 
-TEST(DurationText, TakesNothingFromTheHeapUpTo15Characters) {
+TEST(DurationText, AllocatesNothingUpTo15Characters) {
   test::AllocationCounter counter;
   EXPECT_EQ(QV_TimeHelper::secondsToHms(3725).size(), 7u);
   EXPECT_EQ(QV_TimeHelper::secondsToHms(-3725).size(), 8u);
@@ -139,7 +139,7 @@ TEST(DurationReader, DropsEmptyFields) {
               {"01:30:", 90}});
 }
 
-TEST(DurationReader, ReadsTheLastThreeFieldsAlone) {
+TEST(DurationReader, ReadsOnlyTheLastThreeFields) {
   expectRead({{"1:2:3:4", 7384},
               {"9:0:0:0", 0},
               {"1:00:00:00", 0},
@@ -181,7 +181,7 @@ TEST(DurationReader, SumsInTheOrderOfTheFields) {
   });
 }
 
-TEST(DurationReader, TakesNothingFromTheHeap) {
+TEST(DurationReader, AllocatesNothing) {
   const std::string texts[] = {"1:02:05", "  1:02:05.75\n", "1:2:3:4", "-1:-5", "abc", ""};
   test::AllocationCounter counter;
   for (const std::string& text : texts) QV_TimeHelper::tryHmsToSeconds(text);
@@ -228,8 +228,8 @@ const std::vector<std::string>& unreadable() {
       "00:00-00",                   //
       "\xd9\xa1:30",                // digits of another script
       "\xef\xbc\x91",               //
-      "1:30\xff",                   // no UTF-8
-      "9223372036854775808",        // outside of 64 bits
+      "1:30\xff",                   // not UTF-8
+      "9223372036854775808",        // beyond 64 bits
       "-9223372036854775809",       //
       "0:9223372036854775808",      //
       "99999999999999999999",       //
@@ -246,7 +246,7 @@ const std::vector<std::string>& unreadable() {
   return texts;
 }
 
-TEST(DurationReader, GivesNothingForWhatItCantRead) {
+TEST(DurationReader, GivesNulloptForUnreadableTexts) {
   for (const std::string& text : unreadable()) {
     EXPECT_EQ(QV_TimeHelper::tryHmsToSeconds(text), std::nullopt) << '"' << text << '"';
   }

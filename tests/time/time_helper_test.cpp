@@ -40,7 +40,7 @@ TEST_F(Now, IsTheClocksReadingInMilliseconds) {
   EXPECT_EQ(millisecondsAt(1700000000.25), 1700000000250);
 }
 
-TEST_F(Now, CutsTheMillisecondsOff) {
+TEST_F(Now, TruncatesTheMilliseconds) {
   EXPECT_EQ(millisecondsAt(1700000000.1239), 1700000000123);
   EXPECT_EQ(millisecondsAt(0.9999), 999);
   EXPECT_EQ(millisecondsAt(-0.9999), -999);
@@ -54,7 +54,7 @@ TEST_F(Now, FormsTheMillisecondsInDoublePrecision) {
   EXPECT_EQ(millisecondsAt(1.005), 1004);  // 1004.9999999999999
 }
 
-TEST_F(Now, IsTheClocksReadingInSecondsCutOff) {
+TEST_F(Now, IsTheClocksReadingInSecondsTruncated) {
   EXPECT_EQ(secondsAt(0), 0);
   EXPECT_EQ(secondsAt(1700000000), 1700000000);
   EXPECT_EQ(secondsAt(1700000000.9), 1700000000);
@@ -63,7 +63,7 @@ TEST_F(Now, IsTheClocksReadingInSecondsCutOff) {
   EXPECT_EQ(secondsAt(-1.9), -1);
 }
 
-TEST_F(Now, StaysDefinedWhereTheClockLeaves64Bits) {
+TEST_F(Now, StaysDefinedIfTheClockExceeds64Bits) {
   EXPECT_EQ(secondsAt(0x1p63), kMax);
   EXPECT_EQ(secondsAt(-0x1p63), kMin);
   EXPECT_EQ(secondsAt(std::nextafter(0x1p63, 0)), 9223372036854774784);
@@ -80,7 +80,7 @@ TEST_F(Now, ReadsTheClockOnceACall) {
   EXPECT_THAT(platform.record().lines(), ElementsAre("clock.now", "clock.now"));
 }
 
-TEST_F(Now, FollowsAClockThatIsSetBack) {
+TEST_F(Now, GoesBackIfTheClockIsSetBack) {
   EXPECT_EQ(millisecondsAt(1000), 1000000);
   EXPECT_EQ(millisecondsAt(999), 999000);
 }
@@ -93,7 +93,7 @@ TEST_F(Now, AllocatesNothing) {
   EXPECT_EQ(counter.calls(), 0);
 }
 
-TEST(SecondsToMinutes, CutsOff) {
+TEST(SecondsToMinutes, Truncates) {
   EXPECT_EQ(QV_TimeHelper::secondsToMinutes(0, false), 0);
   EXPECT_EQ(QV_TimeHelper::secondsToMinutes(59, false), 0);
   EXPECT_EQ(QV_TimeHelper::secondsToMinutes(60, false), 1);
@@ -102,7 +102,7 @@ TEST(SecondsToMinutes, CutsOff) {
   EXPECT_EQ(QV_TimeHelper::secondsToMinutes(-61, false), -1);
 }
 
-TEST(SecondsToMinutes, RoundsARestOfMoreThanOneSecondUp) {
+TEST(SecondsToMinutes, RoundsUpARestOfMoreThanOneSecond) {
   EXPECT_EQ(QV_TimeHelper::secondsToMinutes(0, true), 0);
   EXPECT_EQ(QV_TimeHelper::secondsToMinutes(1, true), 0);
   EXPECT_EQ(QV_TimeHelper::secondsToMinutes(2, true), 1);
@@ -112,7 +112,7 @@ TEST(SecondsToMinutes, RoundsARestOfMoreThanOneSecondUp) {
   EXPECT_EQ(QV_TimeHelper::secondsToMinutes(62, true), 2);
 }
 
-TEST(SecondsToMinutes, NeverRoundsNegativeOnes) {
+TEST(SecondsToMinutes, NeverRoundsNegativeDurationsUp) {
   EXPECT_EQ(QV_TimeHelper::secondsToMinutes(-59, true), 0);
   EXPECT_EQ(QV_TimeHelper::secondsToMinutes(-61, true), -1);
   EXPECT_EQ(QV_TimeHelper::secondsToMinutes(-119, true), -1);
@@ -125,7 +125,7 @@ TEST(SecondsToMinutes, TakesAll64Bits) {
   EXPECT_EQ(QV_TimeHelper::secondsToMinutes(kMax, true), 153722867280912931);  // a rest of 7
 }
 
-TEST(SecondsToDays, CutsOff) {
+TEST(SecondsToDays, Truncates) {
   EXPECT_EQ(QV_TimeHelper::secondsToDays(0), 0);
   EXPECT_EQ(QV_TimeHelper::secondsToDays(86399), 0);
   EXPECT_EQ(QV_TimeHelper::secondsToDays(86400), 1);

@@ -19,7 +19,7 @@ std::string encoded(unsigned point) {
           byte(0x80 | (point >> 6 & 0x3f)), byte(0x80 | (point & 0x3f))};
 }
 
-TEST(WhiteSpace, IsExactlyThisOfAllOfUnicode) {
+TEST(WhiteSpace, IsExactlyTheseCharactersOfUnicode) {
   const std::vector<unsigned> expected = {0x09,   0x0a,   0x0b,   0x0c,   0x0d,   0x20,   0x85,
                                           0xa0,   0x1680, 0x2000, 0x2001, 0x2002, 0x2003, 0x2004,
                                           0x2005, 0x2006, 0x2007, 0x2008, 0x2009, 0x200a, 0x2028,
@@ -34,14 +34,14 @@ TEST(WhiteSpace, IsExactlyThisOfAllOfUnicode) {
   EXPECT_EQ(atEnd, expected);
 }
 
-TEST(WhiteSpace, GoesFromBothEndsAndStaysInside) {
+TEST(WhiteSpace, IsRemovedFromBothEndsAndKeptInside) {
   EXPECT_EQ(trimmed(" \u2003\t1 : 30\u3000\n "), "1 : 30");
   EXPECT_EQ(trimmed("1\u00a030"), "1\u00a030");
   EXPECT_EQ(trimmed(""), "");
   EXPECT_EQ(trimmed(" \u2028\u0085 "), "");
 }
 
-TEST(WhiteSpace, LeavesBytesThatAreNoUTF8) {
+TEST(WhiteSpace, LeavesBytesThatAreNotUTF8) {
   EXPECT_EQ(trimmed("\x85"), "\x85");
   EXPECT_EQ(trimmed("\x80\x85 "), "\x80\x85");
   EXPECT_EQ(trimmed(" \xe2\x80"), "\xe2\x80");
