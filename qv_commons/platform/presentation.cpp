@@ -1,13 +1,15 @@
 #include "qv_commons/platform/presentation.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "qv_commons/platform/fatal_error.h"
 
 namespace qv_commons {
 
 void Presentations::dismissAll() {
-  while (!presenting_.empty()) {
-    const std::shared_ptr<ViewController> presenter = presenting_.begin()->second;
-    NativeController::of(*presenter).NativeController::dismiss(false, nullptr);
+  while (!current_.empty()) {
+    NativeController::of(*current_.front().presenter).NativeController::dismiss(false, nullptr);
   }
 }
 
@@ -22,44 +24,42 @@ void NativeController::present(std::shared_ptr<ViewController> controller, bool 
   NativeController& native = of(*controller);
   if (native.presenter_ != nullptr) fatalError("a view controller is presented twice");
   native.presenter_ = this;
-  native.before_ = std::exchange(presented_, std::move(controller));
-  presentations_.presenting_.insert_or_assign(this, controller_->retained());
+  presented_ = controller.get();
+  presentations_.push_back({controller_->retained(), std::move(controller)});
   native.show(animated);
   if (completion) afterTransition(std::move(completion));
 }
 
 void NativeController::dismiss(bool animated, Completion completion) {
-  Removed removed;
-  if (presented_) {
-    removeAllPresented(removed);
-  } else if (presenter_ != nullptr) {
-    presenter_->removePresented(*this, removed);
-  } else {
-    return;
+  const bool isBelow = presented_ != nullptr;
+  const auto stays = [&](const Presentations::Presentation& presentation) {
+    const NativeController& native = of(*presentation.presented);
+    return isBelow ? !native.isAbove(*this) : &native != this;
+  };
+  const auto removed = std::stable_partition(presentations_.begin(), presentations_.end(), stays);
+  std::vector kept(std::make_move_iterator(removed), std::make_move_iterator(presentations_.end()));
+  presentations_.erase(removed, presentations_.end());
+  if (kept.empty()) return;
+  for (auto top = kept.rbegin(); top != kept.rend(); ++top) {
+    NativeController& native = of(*top->presented);
+    native.leave();
+    native.hide(animated);
   }
-  for (const auto& screen : removed.screens) of(*screen).hide(animated);
-  afterTransition([removed = std::move(removed), completion = std::move(completion)] {
+  afterTransition([kept = std::move(kept), completion = std::move(completion)] {
     if (completion) completion();
   });
 }
 
-void NativeController::removeAllPresented(Removed& removed) {
-  while (presented_) {
-    NativeController& last = of(*presented_);
-    last.removeAllPresented(removed);
-    removePresented(last, removed);
-  }
+bool NativeController::isAbove(const NativeController& other) const {
+  return presenter_ != nullptr && (presenter_ == &other || presenter_->isAbove(other));
 }
 
-void NativeController::removePresented(NativeController& native, Removed& removed) {
-  std::shared_ptr<ViewController>* place = &presented_;
-  while (&of(**place) != &native) place = &of(**place).before_;
-  removed.screens.push_back(std::exchange(*place, std::exchange(native.before_, nullptr)));
-  native.presenter_ = nullptr;
-  if (presented_) return;
-  const auto self = presentations_.presenting_.find(this);
-  removed.presenters.push_back(std::move(self->second));
-  presentations_.presenting_.erase(self);
+void NativeController::leave() {
+  NativeController& presenter = *std::exchange(presenter_, nullptr);
+  const auto last = std::find_if(presentations_.rbegin(), presentations_.rend(), [&](auto& other) {
+    return other.presenter.get() == presenter.controller_;
+  });
+  presenter.presented_ = last == presentations_.rend() ? nullptr : last->presented.get();
 }
 
 }  // namespace qv_commons

@@ -20,7 +20,6 @@
 // Main thread only.
 #pragma once
 
-#include <map>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -31,19 +30,20 @@ namespace qv_commons {
 
 class NativeController;
 
-// The controllers of an adapter that present something, all kept alive. Outlives its controllers.
+// Who presents whom on an adapter's screens, in the order of presenting. Keeps both alive. Outlives
+// its controllers.
 class Presentations {
  public:
-  Presentations() = default;
-  Presentations(const Presentations&) = delete;
-  Presentations& operator=(const Presentations&) = delete;
-
   // Dismisses everything that is presented, without animation.
   void dismissAll();
 
  private:
   friend class NativeController;
-  std::map<const NativeController*, std::shared_ptr<ViewController>> presenting_;
+  struct Presentation {
+    std::shared_ptr<ViewController> presenter;
+    std::shared_ptr<ViewController> presented;
+  };
+  std::vector<Presentation> current_;
 };
 
 class NativeController {
@@ -51,10 +51,8 @@ class NativeController {
   // The native of `controller`, which is either that controller itself or, for the library's
   // screens, the one that owns it. Both live equally long.
   NativeController(ViewController& controller, Presentations& presentations)
-      : controller_(&controller), presentations_(presentations) {}
+      : controller_(&controller), presentations_(presentations.current_) {}
   virtual ~NativeController() = default;
-  NativeController(const NativeController&) = delete;
-  NativeController& operator=(const NativeController&) = delete;
 
   // The native of a controller that this process's adapter made.
   static NativeController& of(ViewController& controller);
@@ -71,7 +69,7 @@ class NativeController {
   // What is removed is hidden from the top down and stays alive until `completion` has run.
   void dismiss(bool animated, Completion completion);
 
-  ViewController* presented() const { return presented_.get(); }
+  ViewController* presented() const { return presented_; }
   ViewController* presenting() const { return presenter_ ? presenter_->controller_ : nullptr; }
   std::shared_ptr<ViewController> retained() const { return controller_->shared_from_this(); }
 
@@ -86,20 +84,13 @@ class NativeController {
   NativeController* presenter() const { return presenter_; }
 
  private:
-  // From the top down, and those that present nothing any more.
-  struct Removed {
-    std::vector<std::shared_ptr<ViewController>> screens;
-    std::vector<std::shared_ptr<ViewController>> presenters;
-  };
-
-  void removeAllPresented(Removed& removed);
-  void removePresented(NativeController& native, Removed& removed);
+  bool isAbove(const NativeController& other) const;
+  void leave();
 
   ViewController* controller_;
-  Presentations& presentations_;
+  std::vector<Presentations::Presentation>& presentations_;
   NativeController* presenter_ = nullptr;
-  std::shared_ptr<ViewController> presented_;  // the last one, in the one load of a look-up
-  std::shared_ptr<ViewController> before_;     // what the presenter presented before this one
+  ViewController* presented_ = nullptr;  // the last one, in the one load that a look-up takes
 };
 
 // A controller of that interface over a native of that class, as one object.
@@ -109,11 +100,10 @@ class NativeOf : public Interface, public Native {
   // The arguments are those of `Native` after its controller.
   template <class... Arguments>
   explicit NativeOf(Arguments&&... arguments)
-      : Native(static_cast<ViewController&>(*this), std::forward<Arguments>(arguments)...) {}
+      : Native(*this, std::forward<Arguments>(arguments)...) {}
   template <class... Arguments>
   explicit NativeOf(ViewControllerKind kind, Arguments&&... arguments)
-      : Interface(kind),
-        Native(static_cast<ViewController&>(*this), std::forward<Arguments>(arguments)...) {}
+      : Interface(kind), Native(*this, std::forward<Arguments>(arguments)...) {}
 
   void presentViewController(std::shared_ptr<ViewController> controller, bool animated,
                              Completion completion) override {

@@ -27,8 +27,8 @@ void addEncoded(std::string& line, char character) {
   line += kDigits[byte % 16];
 }
 
-// Without its end. A blank there would be lost on the way, and mailboxes mark a line that begins with
-// "From ", be it one that is parted here.
+// Without its end. A blank there would be lost on the way, and mailboxes mark a line that begins
+// with "From ", be it one that is parted here.
 void addLine(std::string& encoded, std::string_view line) {
   std::size_t start = encoded.size();
   for (std::size_t i = 0; i < line.size(); ++i) {
@@ -64,9 +64,8 @@ bool isCarriedAsItStands(std::string_view text) {
   constexpr std::size_t kLongest = 60;  // longer ones are folded, and blanks may change there
   return text.size() <= kLongest && !text.starts_with(' ') && !text.ends_with(' ') &&
          text.find("=?") == std::string_view::npos && text.find("  ") == std::string_view::npos &&
-         std::all_of(text.begin(), text.end(), [](char character) {
-           return character >= ' ' && character <= '~';
-         });
+         std::all_of(text.begin(), text.end(),
+                     [](char character) { return character >= ' ' && character <= '~'; });
 }
 
 }  // namespace

@@ -14,8 +14,8 @@ std::string quotedPrintable(std::string_view text);
 // Base64 in lines of 76 characters, handed to `sink` piece by piece; false if `sink` said so.
 bool writeBase64Lines(std::string_view bytes, const std::function<bool(std::string_view)>& sink);
 
-// The value of a header without structure: as it stands where every reader gives it back so, else in
-// encoded words.
+// The value of a header without structure: as it stands where every reader gives it back so, else
+// in encoded words.
 std::string headerText(std::string_view text);
 
 }  // namespace qv_commons::desktop

@@ -8,9 +8,8 @@
 namespace qv_commons::desktop {
 
 void MailOutput::write(Use use, const std::atomic<bool>& isStopped) {
-  noDraft_ = writeDraft(folder_, name_, [&](const MailSink& sink) {
-    return writeTo(sink, isStopped);
-  });
+  noDraft_ =
+      writeDraft(folder_, name_, [&](const MailSink& sink) { return writeTo(sink, isStopped); });
   wasStopped_ = isStopped;
   if (!noDraft_ || wasStopped_) return;
   if (use == Use::keep) {
@@ -18,9 +17,9 @@ void MailOutput::write(Use use, const std::atomic<bool>& isStopped) {
     return;
   }
   memory_ = std::make_unique<FileDescriptor>(::memfd_create("message", MFD_CLOEXEC));
-  const bool done = memory_->isOpen() && writeTo([this](std::string_view bytes) {
-    return writeAll(*memory_, bytes);
-  }, isStopped);
+  const bool done =
+      memory_->isOpen() &&
+      writeTo([this](std::string_view bytes) { return writeAll(*memory_, bytes); }, isStopped);
   wasStopped_ = isStopped;
   if (!done) failure_ = "There is no room for the message: " + describeError(errno) + ".";
 }
