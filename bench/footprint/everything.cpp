@@ -1,5 +1,5 @@
-// Calls every function of the logic, to be linked and weighed. It is not run: its platform is made
-// of nothing.
+// Calls every function of the logic, to be linked and weighed. It is not run: it has no platform.
+#include "qv_commons/age_gate/tapped_link.h"
 #include "qv_commons/app_info/app_info.h"
 #include "qv_commons/platform/fatal_error.h"
 #include "qv_commons/platform/presentation.h"
@@ -31,12 +31,13 @@ struct SearchBar {
   static void* toTextField(void* value) { return value; }
 };
 
-// What a host has: the program can't tell where it comes from, so nothing of it is worked out
-// by the compiler.
+// What a host has, from a place that the compiler can't see, so that it evaluates no call itself.
 struct Host {
   Platform platform;
   std::shared_ptr<ViewController> home;
   SearchBar searchBar;
+  TextView& textView;
+  TextViewDelegate* textViewDelegate;
   Presentations presentations;
   std::weak_ptr<QV_SupportHelperDelegate> delegate;
   Color color;
@@ -59,6 +60,7 @@ void useAgeGate(Host& host) {
                                         host.text);
   QV_AgeGateHelper::startAgeGateProcess(host.home, host.number, nullptr, nullptr, own, host.text,
                                         host.text);
+  interactWithLink(host.textView, host.textViewDelegate, host.text, {}, host.platform.application);
 }
 
 void useSupport(Host& host) {
