@@ -24,11 +24,11 @@ namespace qv_commons {
 
 class QV_AgeGateHelper {
  public:
-  // Where no date of birth was confirmed yet, has `viewController` present the age gate screen and
-  // returns; that screen calls `completion`, in the user's confirm, where the age in whole years is
-  // `minimumAgeRequired` or more. Where the user was let through before, calls `completion` at
-  // once, before returning, and shows nothing. Where the user was refused before, has
-  // `viewController` present the refusal; `completion` is not called.
+  // If no date of birth was confirmed yet, has `viewController` present the age gate screen and
+  // returns; when the user confirms, that screen calls `completion` if the age in whole years is
+  // `minimumAgeRequired` or more. If the user was let through before, calls `completion` before
+  // returning and shows nothing. If the user was refused before, has `viewController` present the
+  // refusal; `completion` is not called.
   //
   // `completion` and `contactUsHandler` may be absent. The minimum may be 0 or negative. The links
   // are stored as they are: neither parsed nor checked. `viewController` and `colorTheme` must not

@@ -24,11 +24,8 @@ void requireLength(const AttributedString& text, std::initializer_list<FixedLink
     needed = std::max(needed, link.range.location + link.range.length);
   }
   if (text.length() >= needed) return;
-  fatalError(std::string(caller)
-                 .append(": the text has ")
-                 .append(std::to_string(text.length()))
-                 .append(" UTF-16 units, its links need ")
-                 .append(std::to_string(needed)));
+  fatalError(std::string(caller) + ": the text has " + std::to_string(text.length()) +
+             " UTF-16 units, its links need " + std::to_string(needed));
 }
 
 void applyLinks(TextView& textView, std::initializer_list<FixedLink> links,

@@ -12,8 +12,8 @@ struct Color {
   double blue = 0;
   double alpha = 1;
 
-  // A colour object that a host handed in through its adapter, which hands it on as it is: it may
-  // be one that changes with the look of the screen. The four components don't count then.
+  // A colour object of the platform's that the host passed in through its adapter, which passes it
+  // on unchanged: it may follow the look of the screen. The four components don't count then.
   std::shared_ptr<const void> native = nullptr;
 
   friend bool operator==(const Color&, const Color&) = default;

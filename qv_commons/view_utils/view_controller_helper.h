@@ -19,9 +19,8 @@ class QV_ViewControllerHelper {
   // or else to what it presents, from every other to what it presents. An alert at the end gives
   // the controller that presents it, as it stands.
   //
-  // Null where `controller` is null, where a navigation controller on the way shows nothing, or
-  // where an alert at the end is presented by none. The result is not owned. Any depth, without
-  // allocation.
+  // Null if `controller` is null, if a navigation controller on the way shows nothing, or if an
+  // alert at the end is not presented. The result is not owned. Any depth, without allocation.
   static ViewController* topViewController(ViewController* controller);
 };
 

@@ -63,11 +63,11 @@ class MemoryTextView final : public MemoryViewOf<TextView> {
 
   std::vector<Link> links() const;
 
-  // The link over that UTF-16 unit that a user can choose there: nothing where there is none, and
-  // where the view is not selectable or is editable.
+  // The link at that UTF-16 unit that a user can tap: std::nullopt if there is none, or if the view
+  // is not selectable or is editable.
   std::optional<Link> choosableLinkAt(std::size_t unit) const;
 
-  // The colour in which that UTF-16 unit is shown; nothing where none was ever set.
+  // The colour in which that UTF-16 unit is shown; std::nullopt if none was ever set.
   std::optional<Color> colorAt(std::size_t unit) const;
 
   TextViewDelegate* delegate() const { return delegate_; }
