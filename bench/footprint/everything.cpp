@@ -1,6 +1,6 @@
 // Calls every function of the logic, to be linked and weighed. It is not run: it has no platform.
 #include "qv_commons/age_gate/tapped_link.h"
-#include "qv_commons/app_info/app_info.h"
+#include "qv_commons/app_info/app_info_helper.h"
 #include "qv_commons/platform/fatal_error.h"
 #include "qv_commons/platform/presentation.h"
 #include "qv_commons/qv_commons.h"

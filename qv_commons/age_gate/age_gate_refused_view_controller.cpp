@@ -6,7 +6,7 @@
 #include "qv_commons/age_gate/app_name_placeholder.h"
 #include "qv_commons/age_gate/policy_links.h"
 #include "qv_commons/age_gate/screen_parts.h"
-#include "qv_commons/app_info/app_info.h"
+#include "qv_commons/app_info/app_info_helper.h"
 #include "qv_commons/platform/bundle.h"
 #include "qv_commons/platform/fatal_error.h"
 #include "qv_commons/platform/platform.h"

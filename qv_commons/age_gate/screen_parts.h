@@ -6,7 +6,7 @@
 #include <string_view>
 #include <utility>
 
-#include "qv_commons/app_info/resource_bundle.h"
+#include "qv_commons/app_info/bundle_file_helper.h"
 #include "qv_commons/platform/platform.h"
 #include "qv_commons/platform/view_controllers.h"
 

@@ -1,10 +1,32 @@
 #include "qv_commons/app_info/app_info_helper.h"
 
-#include "qv_commons/app_info/app_info.h"
 #include "qv_commons/platform/bundle.h"
 #include "qv_commons/platform/platform.h"
 
 namespace qv_commons {
+namespace {
+
+std::string textForKey(const Bundle& bundle, std::string_view key) {
+  InfoDictionaryValue value = bundle.objectForInfoDictionaryKey(key);
+  std::string* text = std::get_if<std::string>(&value);
+  return text ? std::move(*text) : std::string();
+}
+
+}  // namespace
+
+std::string appVersionOf(const Bundle& bundle) {
+  std::string version = textForKey(bundle, "CFBundleShortVersionString");
+  version.append("(").append(textForKey(bundle, "CFBundleVersion")).append(")");
+  return version;
+}
+
+std::string appIdOf(const Bundle& bundle) {
+  return bundle.bundleIdentifier().value_or("");
+}
+
+std::string appNameOf(const Bundle& bundle) {
+  return textForKey(bundle, "CFBundleDisplayName");
+}
 
 std::string QV_AppInfoHelper::appVersion() {
   return appVersionOf(currentPlatform().bundles.mainBundle());

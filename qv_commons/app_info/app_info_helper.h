@@ -11,6 +11,8 @@
 
 namespace qv_commons {
 
+class Bundle;
+
 class QV_AppInfoHelper {
  public:
   // "CFBundleShortVersionString", then "CFBundleVersion" in parentheses, with nothing between them:
@@ -23,5 +25,10 @@ class QV_AppInfoHelper {
   // "CFBundleDisplayName", for example "Notes", or "". No other key is read in its place.
   static std::string appName();
 };
+
+// The same of a given bundle.
+std::string appVersionOf(const Bundle& bundle);
+std::string appIdOf(const Bundle& bundle);
+std::string appNameOf(const Bundle& bundle);
 
 }  // namespace qv_commons

@@ -1,12 +1,17 @@
 #include "qv_commons/app_info/bundle_file_helper.h"
 
-#include "qv_commons/app_info/resource_bundle.h"
 #include "qv_commons/app_info/utf8.h"
 #include "qv_commons/platform/bundle.h"
 #include "qv_commons/platform/console.h"
 #include "qv_commons/platform/platform.h"
 
 namespace qv_commons {
+
+std::shared_ptr<Bundle> resourceBundleOf(const Bundles& bundles) {
+  const std::optional<FileLocation> location =
+      bundles.libraryBundle().URLForResource("QV_Commons_iOS", "bundle");
+  return location ? bundles.bundleWithURL(*location) : nullptr;
+}
 
 std::shared_ptr<Bundle> QV_BundleFileHelper::getQVCommonsResourceBundle() {
   return resourceBundleOf(currentPlatform().bundles);

@@ -31,4 +31,7 @@ class QV_BundleFileHelper {
   static std::optional<std::string> loadJsonFromBundle(std::string_view filename);
 };
 
+// `getQVCommonsResourceBundle()` for given bundles.
+std::shared_ptr<Bundle> resourceBundleOf(const Bundles& bundles);
+
 }  // namespace qv_commons

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "qv_commons/app_info/app_info.h"
+#include "qv_commons/app_info/app_info_helper.h"
 #include "qv_commons/platform/console.h"
 #include "qv_commons/platform/device.h"
 #include "qv_commons/platform/platform.h"

@@ -1,7 +1,7 @@
 // Conformance of Bundles and Bundle.
 #pragma once
 
-#include "qv_commons/app_info/resource_bundle.h"
+#include "qv_commons/app_info/bundle_file_helper.h"
 
 #include "tests/conformance/adapter.h"
 

@@ -7,7 +7,7 @@
 #include "qv_commons/age_gate/age_gate_helper.h"
 #include "qv_commons/age_gate/age_gate_refused_view_controller.h"
 #include "qv_commons/age_gate/age_gate_view_controller.h"
-#include "qv_commons/app_info/resource_bundle.h"
+#include "qv_commons/app_info/bundle_file_helper.h"
 #include "qv_commons/platform/user_defaults.h"
 
 #include "tests/conformance/adapter.h"

@@ -4,7 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "qv_commons/app_info/resource_bundle.h"
+#include "qv_commons/app_info/bundle_file_helper.h"
 #include "qv_commons/platform/memory/memory_platform.h"
 
 namespace qv_commons::memory {

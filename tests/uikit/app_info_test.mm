@@ -1,6 +1,5 @@
 // App info, the resource bundle and JSON files by their selectors, from real bundles.
-#include "qv_commons/app_info/app_info.h"
-
+#include "qv_commons/app_info/app_info_helper.h"
 #import "qv_commons/platform/uikit/uikit_bundle.h"
 
 #import "tests/uikit/temporary_folder.h"
