@@ -4,7 +4,6 @@
 #include <charconv>
 #include <cmath>
 #include <cstddef>
-#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 
@@ -27,14 +26,14 @@ std::string thousandthsText(unsigned thousandths) {
 
 // The number digits * 10^exponent.
 struct Decimal {
-  std::int64_t digits;
+  long long digits;
   int exponent;
 };
 
 Decimal rounded(double magnitude, int digitCount) {
   std::array<char, 32> text;
   std::snprintf(text.data(), text.size(), "%.*e", digitCount - 1, magnitude);
-  std::int64_t digits = 0;
+  long long digits = 0;
   const char* at = text.data();
   for (; *at != 'e'; ++at) {
     const bool isDigit = *at >= '0' && *at <= '9';  // and not the locale's decimal point
@@ -45,8 +44,9 @@ Decimal rounded(double magnitude, int digitCount) {
 
 // The text that is read has no decimal point, which would have to be the locale's.
 double valueOf(Decimal decimal) {
-  const std::string text = std::to_string(decimal.digits) + "e" + std::to_string(decimal.exponent);
-  return std::strtod(text.c_str(), nullptr);
+  std::array<char, 32> text;
+  std::snprintf(text.data(), text.size(), "%llde%d", decimal.digits, decimal.exponent);
+  return std::strtod(text.data(), nullptr);
 }
 
 Decimal shortestDecimal(double magnitude) {
