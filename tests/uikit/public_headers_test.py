@@ -66,7 +66,7 @@ def main():
     check(not names, f'Swift names that nobody expects: {names}')
 
     with open(os.path.join(HEADERS, 'QV_Commons_iOS.h'), encoding='utf-8') as file:
-        imported = set(re.findall(r'#import "(.*)"', file.read()))
+        imported = set(re.findall(r'^#import <QV_Commons_iOS/(.*)>', file.read(), re.M))
     others = {name for name in os.listdir(HEADERS) if name.endswith('.h')}
     check(imported == others - {'QV_Commons_iOS.h', 'QV_Defines.h'},
           f'the umbrella header is not the whole: {imported ^ others}')
@@ -77,7 +77,7 @@ def main():
     with tempfile.TemporaryDirectory() as cache:
         result = clang('@import QV_Commons_iOS;\nvoid f(void) { (void)[QV_Links privacyPolicy]; }\n',
                        '-fmodules', '-fmodules-cache-path=' + cache,
-                       '-fmodule-map-file=' + os.path.join(HEADERS, 'module.modulemap'))
+                       '-fmodule-map-file=' + os.path.join(HEADERS, '../module.modulemap'))
         check(result.returncode == 0, f'the module does not compile:\n{result.stderr}')
 
     for expression in ('[[QV_AgeGateColorTheme alloc] init]', '[QV_AgeGateColorTheme new]'):

@@ -2,6 +2,7 @@
 
 #include "qv_commons/platform/fatal_error.h"
 #import "qv_commons/platform/uikit/QV_AgeGateColorTheme_Core.h"
+#include "qv_commons/platform/uikit/linked_in.h"
 #import "qv_commons/platform/uikit/uikit_views.h"
 
 @implementation QV_AgeGateColorTheme {

@@ -3,6 +3,7 @@
 #include "qv_commons/age_gate/age_gate_helper.h"
 #import "qv_commons/platform/uikit/QV_AgeGateColorTheme_Core.h"
 #import "qv_commons/platform/uikit/blocks.h"
+#include "qv_commons/platform/uikit/linked_in.h"
 #import "qv_commons/platform/uikit/text.h"
 #import "qv_commons/platform/uikit/uikit_controller.h"
 

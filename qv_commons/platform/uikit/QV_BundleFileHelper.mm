@@ -1,6 +1,7 @@
 #import "qv_commons/platform/uikit/include/QV_Commons_iOS/QV_BundleFileHelper.h"
 
 #include "qv_commons/app_info/bundle_file_helper.h"
+#include "qv_commons/platform/uikit/linked_in.h"
 #import "qv_commons/platform/uikit/text.h"
 #import "qv_commons/platform/uikit/uikit_bundle.h"
 

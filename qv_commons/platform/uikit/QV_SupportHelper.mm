@@ -4,6 +4,7 @@
 
 #include "qv_commons/platform/fatal_error.h"
 #import "qv_commons/platform/uikit/associated_object.h"
+#include "qv_commons/platform/uikit/linked_in.h"
 #import "qv_commons/platform/uikit/text.h"
 #import "qv_commons/platform/uikit/uikit_controller.h"
 #import "qv_commons/platform/uikit/uikit_mail.h"

@@ -1,5 +1,6 @@
 #import "qv_commons/platform/uikit/include/QV_Commons_iOS/QV_TimeHelper.h"
 
+#include "qv_commons/platform/uikit/linked_in.h"
 #import "qv_commons/platform/uikit/text.h"
 #include "qv_commons/time/time_helper.h"
 

@@ -1,5 +1,6 @@
 #import "qv_commons/platform/uikit/availability.h"
 #import "qv_commons/platform/uikit/include/QV_Commons_iOS/UISearchBar+QV_SearchBar.h"
+#include "qv_commons/platform/uikit/linked_in.h"
 #include "qv_commons/view_utils/search_bar.h"
 
 namespace {
@@ -27,3 +28,9 @@ struct SearchBar {
 }
 
 @end
+
+namespace qv_commons::uikit {
+
+void searchBarCategory() {}
+
+}  // namespace qv_commons::uikit

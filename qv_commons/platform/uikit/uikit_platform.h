@@ -1,4 +1,5 @@
-// The iOS adapter. Linking it is enough: it installs itself when the app is loaded, before `main`.
+// The iOS adapter. It installs itself when the app is loaded, before `main`. An app that uses none
+// of its Objective-C classes refers to `platform` or links with -ObjC.
 #pragma once
 
 #include "qv_commons/platform/platform.h"

@@ -1,5 +1,6 @@
 #import "qv_commons/platform/uikit/uikit_platform.h"
 
+#include "qv_commons/platform/uikit/linked_in.h"
 #import "qv_commons/platform/uikit/uikit_bundle.h"
 #import "qv_commons/platform/uikit/uikit_system.h"
 #import "qv_commons/platform/uikit/uikit_view_controllers.h"
@@ -35,6 +36,10 @@ const Platform& platform() {
   return adapter->references;
 }
 
+void installAdapter() {
+  installPlatform(platform());
+}
+
 }  // namespace qv_commons::uikit
 
 @interface QV_Installation : NSObject
@@ -42,6 +47,6 @@ const Platform& platform() {
 
 @implementation QV_Installation
 + (void)load {
-  qv_commons::installPlatform(qv_commons::uikit::platform());
+  qv_commons::uikit::installAdapter();
 }
 @end

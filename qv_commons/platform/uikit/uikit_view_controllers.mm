@@ -1,12 +1,26 @@
 #import "qv_commons/platform/uikit/uikit_view_controllers.h"
 
 #include "qv_commons/platform/fatal_error.h"
-#import "qv_commons/platform/uikit/layout_view_controller.h"
+#import "qv_commons/platform/uikit/QV_AgeGateRefusedViewController.h"
+#import "qv_commons/platform/uikit/QV_AgeGateViewController.h"
 #import "qv_commons/platform/uikit/text.h"
 #import "qv_commons/platform/uikit/uikit_bundle.h"
 #import "qv_commons/platform/uikit/uikit_controller.h"
 
 namespace qv_commons::uikit {
+namespace {
+
+// Not by NSClassFromString: a linker leaves out a class of a static library that is not
+// referred to.
+Class screenClass(NSString* nibName) {
+  for (Class type in
+       @[ [QV_AgeGateViewController class], [QV_AgeGateRefusedViewController class] ]) {
+    if ([nibName isEqual:NSStringFromClass(type)]) return type;
+  }
+  fatalError("no screen class has the name of the layout " + toString(nibName));
+}
+
+}  // namespace
 
 bool UIKitViewControllers::canSendMail() const {
   return [MFMailComposeViewController canSendMail];
@@ -29,13 +43,10 @@ std::shared_ptr<AlertController> UIKitViewControllers::makeAlertController(
 std::shared_ptr<LayoutScreen> UIKitViewControllers::initWithNibName(
     std::string_view name, std::shared_ptr<Bundle> bundle, const LayoutScreenFactory& make) {
   NSString* nibName = toNSString(name);
-  const Class type = NSClassFromString(nibName);
-  if (![type isSubclassOfClass:[QV_LayoutViewController class]]) {
-    fatalError(std::string("no screen class has the name of the layout ").append(name));
-  }
-  QV_LayoutViewController* controller = [[type alloc] initWithNibName:nibName
-                                                               bundle:toNSBundle(bundle.get())
-                                                              factory:make];
+  QV_LayoutViewController* controller =
+      [[screenClass(nibName) alloc] initWithNibName:nibName
+                                             bundle:toNSBundle(bundle.get())
+                                            factory:make];
   return std::static_pointer_cast<LayoutScreen>(retainedViewController(controller));
 }
 

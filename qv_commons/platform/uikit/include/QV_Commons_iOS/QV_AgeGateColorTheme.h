@@ -1,16 +1,16 @@
 #pragma once
 
+#import <QV_Commons_iOS/QV_Defines.h>
 #import <UIKit/UIKit.h>
-
-#import "QV_Defines.h"
 
 NS_ASSUME_NONNULL_BEGIN
 
 /// The five colours of the age gate's screens.
 ///
 /// The screens read them once, while they set up their views; colours that change with the look of
-/// the screen work. Main thread only.
-NS_SWIFT_UI_ACTOR
+/// the screen work. It never changes, so it may be made and kept on any thread.
+NS_SWIFT_SENDABLE
+QV_EXPORT
 @interface QV_AgeGateColorTheme : NSObject
 
 /// A theme of exactly these colours.
@@ -28,8 +28,9 @@ NS_SWIFT_UI_ACTOR
     NS_SWIFT_NAME(init(backgroundColor:buttonBackgroundColor:buttonTextColor:textColor:policiesTextColor:));
 
 /// A new theme of the stock colours: the dark ones where the device shows its dark look at this
-/// moment (iOS 13.0 or later), the light ones otherwise. It does not follow a later change.
-+ (QV_AgeGateColorTheme*)defaultTheme NS_SWIFT_NAME(defaultTheme());
+/// moment (iOS 13.0 or later), the light ones otherwise. It does not follow a later change. Main
+/// thread only.
++ (QV_AgeGateColorTheme*)defaultTheme NS_SWIFT_UI_ACTOR NS_SWIFT_NAME(defaultTheme());
 
 /// There is no theme without colours: stops the process.
 - (instancetype)init NS_UNAVAILABLE;

@@ -1,9 +1,8 @@
 #pragma once
 
+#import <QV_Commons_iOS/QV_AgeGateColorTheme.h>
+#import <QV_Commons_iOS/QV_Defines.h>
 #import <UIKit/UIKit.h>
-
-#import "QV_AgeGateColorTheme.h"
-#import "QV_Defines.h"
 
 NS_ASSUME_NONNULL_BEGIN
 
@@ -20,6 +19,7 @@ NS_ASSUME_NONNULL_BEGIN
 /// The outcome is kept in the app's user defaults, under "QV_AgeGate_Shown" and
 /// "QV_AgeGate_Blocked", and is never taken back. Main thread only.
 NS_SWIFT_UI_ACTOR
+QV_EXPORT
 @interface QV_AgeGateHelper : NSObject
 
 /// Lets the user through, asks for the date of birth, or shows the refusal, as the user defaults

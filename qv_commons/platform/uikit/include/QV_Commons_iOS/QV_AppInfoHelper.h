@@ -1,12 +1,12 @@
 #pragma once
 
-#import "QV_Defines.h"
+#import <QV_Commons_iOS/QV_Defines.h>
 
 NS_ASSUME_NONNULL_BEGIN
 
 /// What the app says of itself in its main bundle. Nothing fails: what is missing, or is no text,
-/// becomes the empty text. Main thread only.
-NS_SWIFT_UI_ACTOR
+/// becomes the empty text. Any thread.
+QV_EXPORT
 @interface QV_AppInfoHelper : NSObject
 
 /// The short version and the build, for example "2.4.1(317)"; "()" where both are missing.

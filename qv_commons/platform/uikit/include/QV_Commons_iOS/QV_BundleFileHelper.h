@@ -1,11 +1,11 @@
 #pragma once
 
-#import "QV_Defines.h"
+#import <QV_Commons_iOS/QV_Defines.h>
 
 NS_ASSUME_NONNULL_BEGIN
 
-/// The library's resource bundle, and the JSON files of the app. Main thread only.
-NS_SWIFT_UI_ACTOR
+/// The library's resource bundle, and the JSON files of the app. Any thread.
+QV_EXPORT
 @interface QV_BundleFileHelper : NSObject
 
 /// "QV_Commons_iOS.bundle" beside the library's code, looked up at each call; nil where it is not

@@ -3,14 +3,14 @@
 ///
 ///     #import <QV_Commons_iOS/QV_Commons_iOS.h>     // Objective-C
 ///     import QV_Commons_iOS                         // Swift
-#import "QV_AgeGateColorTheme.h"
-#import "QV_AgeGateHelper.h"
-#import "QV_AppInfoHelper.h"
-#import "QV_BundleFileHelper.h"
-#import "QV_Links.h"
-#import "QV_RateHelper.h"
-#import "QV_SupportHelper.h"
-#import "QV_SupportHelperDelegate.h"
-#import "QV_TimeHelper.h"
-#import "QV_ViewControllerHelper.h"
-#import "UISearchBar+QV_SearchBar.h"
+#import <QV_Commons_iOS/QV_AgeGateColorTheme.h>
+#import <QV_Commons_iOS/QV_AgeGateHelper.h>
+#import <QV_Commons_iOS/QV_AppInfoHelper.h>
+#import <QV_Commons_iOS/QV_BundleFileHelper.h>
+#import <QV_Commons_iOS/QV_Links.h>
+#import <QV_Commons_iOS/QV_RateHelper.h>
+#import <QV_Commons_iOS/QV_SupportHelper.h>
+#import <QV_Commons_iOS/QV_SupportHelperDelegate.h>
+#import <QV_Commons_iOS/QV_TimeHelper.h>
+#import <QV_Commons_iOS/QV_ViewControllerHelper.h>
+#import <QV_Commons_iOS/UISearchBar+QV_SearchBar.h>

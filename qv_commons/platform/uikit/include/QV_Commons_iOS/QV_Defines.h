@@ -3,7 +3,17 @@
 
 #import <Foundation/Foundation.h>
 
-// Swift callers are held to the main thread, where the compiler knows the mark (Xcode 13).
+// What a program that links the library sees of it; all else is hidden.
+#define QV_EXPORT __attribute__((visibility("default")))
+
+// For Swift, where the compiler knows these marks. Swift 6 holds its callers to them; Swift 5 does
+// so only with strict concurrency checking, and otherwise only in code that is bound to an actor.
 #if !defined(NS_SWIFT_UI_ACTOR)
 #define NS_SWIFT_UI_ACTOR
+#endif
+#if !defined(NS_SWIFT_NONISOLATED)
+#define NS_SWIFT_NONISOLATED
+#endif
+#if !defined(NS_SWIFT_SENDABLE)
+#define NS_SWIFT_SENDABLE
 #endif

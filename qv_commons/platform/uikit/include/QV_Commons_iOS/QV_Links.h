@@ -1,10 +1,11 @@
 #pragma once
 
-#import "QV_Defines.h"
+#import <QV_Commons_iOS/QV_Defines.h>
 
 NS_ASSUME_NONNULL_BEGIN
 
 /// The family's legal documents on the web. Any thread.
+QV_EXPORT
 @interface QV_Links : NSObject
 
 /// The privacy policy: an https address that ends in "/privacy/".

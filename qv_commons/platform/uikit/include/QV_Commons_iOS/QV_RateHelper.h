@@ -1,11 +1,12 @@
 #pragma once
 
-#import "QV_Defines.h"
+#import <QV_Commons_iOS/QV_Defines.h>
 
 NS_ASSUME_NONNULL_BEGIN
 
 /// The app store's page for writing a review. Main thread only.
 NS_SWIFT_UI_ACTOR
+QV_EXPORT
 @interface QV_RateHelper : NSObject
 
 /// Opens the write-review page. Where the link can't be made or opened, nothing happens.

@@ -1,10 +1,9 @@
 #pragma once
 
 #import <MessageUI/MessageUI.h>
+#import <QV_Commons_iOS/QV_Defines.h>
+#import <QV_Commons_iOS/QV_SupportHelperDelegate.h>
 #import <UIKit/UIKit.h>
-
-#import "QV_Defines.h"
-#import "QV_SupportHelperDelegate.h"
 
 NS_ASSUME_NONNULL_BEGIN
 
@@ -20,11 +19,12 @@ NS_ASSUME_NONNULL_BEGIN
 ///
 /// Main thread only; `shared` alone may be asked for on any thread.
 NS_SWIFT_UI_ACTOR
+QV_EXPORT
 @interface QV_SupportHelper : NSObject <MFMailComposeViewControllerDelegate>
 
 /// The one instance for the whole process. An instance of your own has a delegate slot of its own;
 /// keep it until its composer is gone.
-@property(class, nonatomic, readonly) QV_SupportHelper* shared;
+@property(class, nonatomic, readonly) QV_SupportHelper* shared NS_SWIFT_NONISOLATED;
 
 /// Opens a composer on `viewController` with the app's and the device's particulars in the body and
 /// the store's receipt attached, if there is one.

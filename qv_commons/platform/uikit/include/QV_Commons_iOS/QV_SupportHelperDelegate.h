@@ -1,6 +1,6 @@
 #pragma once
 
-#import "QV_Defines.h"
+#import <QV_Commons_iOS/QV_Defines.h>
 
 NS_ASSUME_NONNULL_BEGIN
 

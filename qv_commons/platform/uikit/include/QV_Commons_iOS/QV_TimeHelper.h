@@ -1,10 +1,11 @@
 #pragma once
 
-#import "QV_Defines.h"
+#import <QV_Commons_iOS/QV_Defines.h>
 
 NS_ASSUME_NONNULL_BEGIN
 
 /// The wall clock, conversions, and durations as text. Any thread.
+QV_EXPORT
 @interface QV_TimeHelper : NSObject
 
 /// Milliseconds since 1970-01-01 00:00:00 UTC, truncated, for example 1700000000123.

@@ -1,13 +1,13 @@
 #pragma once
 
+#import <QV_Commons_iOS/QV_Defines.h>
 #import <UIKit/UIKit.h>
-
-#import "QV_Defines.h"
 
 NS_ASSUME_NONNULL_BEGIN
 
 /// Finds the view controller on top of the screen. Main thread only.
 NS_SWIFT_UI_ACTOR
+QV_EXPORT
 @interface QV_ViewControllerHelper : NSObject
 
 /// Walks from `controller` through navigation and tab bar controllers and presented controllers to

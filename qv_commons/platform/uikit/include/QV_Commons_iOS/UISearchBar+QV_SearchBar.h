@@ -1,8 +1,7 @@
 #pragma once
 
+#import <QV_Commons_iOS/QV_Defines.h>
 #import <UIKit/UIKit.h>
-
-#import "QV_Defines.h"
 
 NS_ASSUME_NONNULL_BEGIN
 
