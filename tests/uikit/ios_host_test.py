@@ -65,12 +65,14 @@ class IosHost(unittest.TestCase):
         self.assertIn(f'@implementation {delegate}\n', read(delegate + '.m'))
         self.assertIn('NSClassFromString(@"TimesViewController")', read('RootViewController.m'))
         self.assertIn('@objc(TimesViewController)', read('TimesViewController.swift'))
+        # The one launch screen that systems 11 to 13 know, too.
+        self.assertIn('launchScreen="YES"', read(info['UILaunchStoryboardName'] + '.storyboard'))
         self.assertEqual(json.loads(read('greeting.json')), {'greeting': 'Hello'})
 
     def test_the_project_builds_every_source(self):
         listed = read('CMakeLists.txt')
         for file in os.listdir(HOST):
-            if file.endswith(('.m', '.swift', '.json')):
+            if file.endswith(('.m', '.swift', '.json', '.storyboard')):
                 self.assertIn(f'  {file}', listed)
 
 

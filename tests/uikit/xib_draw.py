@@ -30,37 +30,50 @@ def grey(level):
 
 
 @dataclass(frozen=True)
-class Look:
-    """The default theme's colours and the system's around them."""
-    name: str
-    surroundings: tuple
+class Theme:
+    """The colours of a default theme."""
     panel: tuple
     text: tuple
     links: tuple
     button: tuple
     title: tuple
+
+
+@dataclass(frozen=True)
+class Device:
+    """The colours of the system's look."""
+    system: dict  # by the name that a layout refers to
     wheels: tuple
     band: tuple
 
 
-LIGHT = Look('light', (242, 242, 247), grey(1), grey(0.29), grey(0.514), grey(0), grey(1), grey(0),
-             (238, 238, 240))
-DARK = Look('dark', grey(0), grey(0.118), grey(1), grey(0.541), grey(1), grey(0), grey(1),
-            (48, 48, 51))
-
+LIGHT_THEME = Theme(grey(1), grey(0.29), grey(0.514), grey(0), grey(1))
+DARK_THEME = Theme(grey(0.118), grey(1), grey(0.541), grey(1), grey(0))
+LIGHT_DEVICE = Device({'groupTableViewBackgroundColor': (242, 242, 247),
+                       'secondarySystemGroupedBackgroundColor': grey(1)}, grey(0), (238, 238, 240))
+DARK_DEVICE = Device({'groupTableViewBackgroundColor': grey(0),
+                      'secondarySystemGroupedBackgroundColor': (28, 28, 30)}, grey(1), (48, 48, 51))
+LIGHT, DARK = (LIGHT_THEME, LIGHT_DEVICE), (DARK_THEME, DARK_DEVICE)
 
 
 class Picture:
-    """One screen, at SCALE pixels to the point."""
+    """One screen, at SCALE pixels to the point, in a theme on a device's look."""
 
     def __init__(self, layout, look):
-        self.layout, self.look = layout, look
+        self.layout = layout
+        self.look, self.device = look
         size = layout.device.width * SCALE, layout.device.height * SCALE
-        self.image = Image.new('RGB', size, look.surroundings)
-        self._rounded(layout.frames['panel'], CORNER, look.panel)
+        root = layout.document.root.find('objects/view')
+        self.image = Image.new('RGB', size, self._ground(root))
+        self._rounded(layout.frames['panel'], CORNER, self.look.panel)
         for id, content in layout.contents.items():
             {'label': self._label, 'textView': self._text_view, 'button': self._button,
              'datePicker': self._picker}[content.item.kind](id, content)
+
+    def _ground(self, element):
+        """What the layout gives a view for a background; None without one."""
+        color = element.find("color[@key='backgroundColor']")
+        return None if color is None else self.device.system[color.get('systemColor')]
 
     def _rounded(self, frame, radius, color):
         """Drawn large and scaled down, for smooth corners."""
@@ -113,9 +126,12 @@ class Picture:
     def _picker(self, id, content):
         """A cylinder of rows, the one in the middle on a band."""
         frame = self.layout.frames[id]
+        ground = self._ground(content.item.element)
+        if ground is not None:
+            self._rounded(frame, 0, ground)
         middle, radius = frame.top + frame.height / 2, frame.height / 2 - 4
         band = type(frame)(frame.left + 9, middle - 16, frame.width - 18, 32)
-        self._rounded(band, CORNER, self.look.band)
+        self._rounded(band, CORNER, self.device.band)
         width = min(frame.width, 320)
         left = frame.left + (frame.width - width) / 2
         for x, anchor, rows in WHEELS:
@@ -136,7 +152,7 @@ class Picture:
         tile = tile.point(lambda value: round(value * shown))
         left = round(centre[0] * SCALE) - (tile.width if anchor == 'r' else tile.width // 2)
         top = round((centre[1] + radius * math.sin(angle)) * SCALE) - height // 2
-        self.image.paste(self.look.wheels, (left, top), tile)
+        self.image.paste(self.device.wheels, (left, top), tile)
 
 
 def shown_text(text):
@@ -170,7 +186,9 @@ def pictures():
     halved = lambda image: image.resize((image.width // 2, image.height // 2),
                                         Image.Resampling.LANCZOS)
     return {
-        'ios_age_gate.png': sheet([screen(gate, '390x844', LIGHT), screen(gate, '390x844', DARK)]),
+        'ios_age_gate.png': halved(sheet([screen(gate, '390x844', (theme, device))
+                                          for theme in (LIGHT_THEME, DARK_THEME)
+                                          for device in (LIGHT_DEVICE, DARK_DEVICE)])),
         'ios_refused.png': sheet([screen(refused, '390x844', LIGHT),
                                   screen(refused, '390x844', DARK)]),
         'ios_landscape.png': sheet([screen(gate, '844x390', LIGHT)]),

@@ -109,8 +109,8 @@ def reader_problems(document, screen):
         if item.kind == 'datePicker' and accessibility.get('label') != 'Date of birth':
             yield f'{item.id} has no accessibility label'
         if item.kind == 'datePicker' and (element.get('datePickerMode'), element.get('style')) != (
-                'date', None):
-            yield f'{item.id} is not a plain date picker'
+                'date', 'wheels'):
+            yield f'{item.id} has no wheels for a date'
         if item.id == 'header' and accessibility.find("accessibilityTraits[@header='YES']") is None:
             yield 'header is no heading to a screen reader'
     prefix = {'QV_AgeGateViewController': 'QV_AgeGate_',
@@ -118,6 +118,20 @@ def reader_problems(document, screen):
     if len(set(identifiers)) != len(identifiers) or not all(
             identifier and identifier.startswith(prefix) for identifier in identifiers):
         yield f'identifiers are {identifiers}'
+
+
+def ground_problems(document):
+    """The wheels' text follows the device, so what is behind it does, too: a system colour, with a
+    value for the systems that lack it."""
+    fallbacks = {color.get('name'): color.find('color') for color in
+                 document.root.findall('resources/systemColor')}
+    for color in document.root.iter('color'):
+        if color.get('systemColor') and fallbacks.get(color.get('systemColor')) is None:
+            yield f'{color.get("systemColor")} has no value for older systems'
+    for item in document.items.values():
+        ground = item.element.find("color[@key='backgroundColor']")
+        if item.kind == 'datePicker' and (ground is None or not ground.get('systemColor')):
+            yield f'{item.id} has no ground that follows the device'
 
 
 def link_problems(document):
@@ -135,7 +149,8 @@ def problems(text, screen):
     if found:
         return found
     return [*connection_problems(document, screen), *constraint_problems(document),
-            *reader_problems(document, screen), *link_problems(document)]
+            *reader_problems(document, screen), *ground_problems(document),
+            *link_problems(document)]
 
 
 class XibReferences(unittest.TestCase):
@@ -175,7 +190,12 @@ class XibReferences(unittest.TestCase):
                 ('scrollEnabled="NO"', 'scrollEnabled="NO" selectable="NO"',
                  'policies keeps its links from being chosen'),
                 ('label="Date of birth"', '', 'picker has no accessibility label'),
-                ('datePickerMode="date"', 'datePickerMode="dateAndTime"', 'picker is not a plain date picker'),
+                ('datePickerMode="date"', 'datePickerMode="dateAndTime"', 'picker has no wheels for a date'),
+                (' style="wheels"', '', 'picker has no wheels for a date'),
+                ('<color key="backgroundColor" systemColor="secondarySystemGroupedBackgroundColor"/>', '',
+                 'picker has no ground that follows the device'),
+                ('<systemColor name="secondarySystemGroupedBackgroundColor">', '<systemColor name="other">',
+                 'secondarySystemGroupedBackgroundColor has no value for older systems'),
                 ('header="YES"', '', 'header is no heading'),
                 ('QV_AgeGate_Subtitle', 'QV_AgeGate_Header', 'identifiers are'),
                 ('Privacy Policy &amp;', 'Privacy policy &amp;', 'tos has no "Privacy Policy" at 0'),

@@ -105,6 +105,10 @@ NSDictionary<NSString*, NSNumber*>* controlEvents() {
 
 - (void)setAttributes:(NSDictionary<NSString*, NSString*>*)attributes of:(UIView*)view {
   if (NSString* text = attributes[@"text"]) [view setValue:text forKey:@"text"];
+  // Systems before 13.4 know no styles, and read over it.
+  if ([attributes[@"style"] isEqual:@"wheels"] && standin::systemIsAtLeast("13.4")) {
+    static_cast<UIDatePicker*>(view).preferredDatePickerStyle = UIDatePickerStyleWheels;
+  }
   for (NSString* flag in @[ @"editable", @"selectable", @"enabled", @"clipsSubviews" ]) {
     NSString* value = attributes[flag];
     if (value == nil) continue;

@@ -2,7 +2,6 @@
 
 #include "qv_commons/age_gate/age_gate_view_controller.h"
 #include "qv_commons/platform/platform.h"
-#include "qv_commons/platform/uikit/availability.h"
 
 @implementation QV_AgeGateViewController
 
@@ -53,12 +52,6 @@
 }
 - (void)setSubtitle:(UILabel*)subtitle {
   [self setView:subtitle forOutlet:"subtitle"];
-}
-
-- (void)viewDidLoad {
-  // Later systems would show a field that opens a calendar, far from any year of birth.
-  if (QV_IOS_AVAILABLE(13.4)) self.datePicker.preferredDatePickerStyle = UIDatePickerStyleWheels;
-  [super viewDidLoad];
 }
 
 - (void)onDateChanged:(id)sender {
