@@ -26,6 +26,10 @@ function(qv_add_library name export)
   target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
                                             $<INSTALL_INTERFACE:include>)
   qv_compile_options(${name})
+  if(APPLE)  # an app or a framework that links them shows the public classes alone
+    set_target_properties(${name} PROPERTIES CXX_VISIBILITY_PRESET hidden
+                          OBJCXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
+  endif()
   # Nobody replaces functions of these libraries at load time, so g++ may inline them, as clang++ does.
   target_compile_options(${name} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-semantic-interposition>)
   set_property(GLOBAL APPEND PROPERTY QV_COMMONS_LIBRARIES ${name})
