@@ -13,11 +13,12 @@ build() { cmake --preset "$1" >"build/$1.log" 2>&1 && cmake --build --preset "$1
 run_tests() { ctest --preset "$1" -j "$(nproc)" --no-tests=error "${@:2}"; }
 
 # What reads sources and layouts, or builds on its own, gives the same answer in every preset.
-static_checks='^routes\.|uikit\.(ios|xib|platform_names|public_headers|privacy)'
+static_checks='^routes\.|uikit\.(ios|xib|platform_names|public_headers|privacy|resource)'
 
 mkdir -p build
 install_packages "${core_packages[@]}" "${desktop_packages[@]}" "${tour_packages[@]}" \
   "${test_packages[@]}" "${bench_packages[@]}" "${ios_packages[@]}"
+unpack_packages "${unpacked_packages[@]}"
 
 step "format"
 if have clang-format; then tools/format.sh --check; fi

@@ -7,8 +7,9 @@ tour_packages=(msmtp python3-aiosmtpd)
 test_packages=(git clang clang-format clang-tidy llvm libclang-rt-dev lcov libgtest-dev
   libgmock-dev libssl-dev locales tzdata xvfb dbus-daemon)
 bench_packages=(libbenchmark-dev libfmt-dev libabsl-dev libssl-dev libglib2.0-dev libboost-dev)
-ios_packages=(clang libgnustep-base-dev clang-19 libc++-19-dev musl-dev python3-clang
+ios_packages=(clang libgnustep-base-dev clang-19 libc++-19-dev lld-19 musl-dev python3-clang
   python3-kiwisolver python3-pil)
+unpacked_packages=(libc++-15-dev libc++1-15 libc++abi1-15)  # a machine has one libc++ installed
 other_packages=(clang clang-19 libc++-19-dev llvm musl-dev googletest g++-i686-linux-gnu
   g++-arm-linux-gnueabihf g++-aarch64-linux-gnu qemu-user emscripten)
 
@@ -39,4 +40,17 @@ install_packages() {
       --no-install-recommends "${missing[@]}" >/dev/null; }; then
     echo "They could not be installed. Going on with what is there."
   fi
+}
+
+# Unpacks packages into build/unpacked, each into a folder of its name, without installing them.
+unpack_packages() {
+  local package
+  for package in "$@"; do
+    if [ -d "build/unpacked/$package" ] || ! command -v dpkg >/dev/null; then continue; fi
+    mkdir -p build/unpacked
+    if ! (cd build/unpacked && apt-get download -qq "$package" 2>/dev/null &&
+      dpkg -x "${package}"_*.deb "$package" && rm "${package}"_*.deb); then
+      echo "$package could not be unpacked. Going on with what is there."
+    fi
+  done
 }

@@ -14,23 +14,15 @@
 
 class FolderBundles final : public qv_commons::Bundles {
  public:
-  FolderBundles() {
-    NSString* resources =
-        [NSBundle.mainBundle.bundlePath stringByAppendingPathComponent:@"QV_Commons_iOS.bundle"];
-    [NSFileManager.defaultManager
-        copyItemAtPath:resources
-                toPath:[library_.path() stringByAppendingPathComponent:@"QV_Commons_iOS.bundle"]
-                 error:nullptr];
-  }
-
   // Opened when it is first asked for: Foundation reads a bundle once.
   const qv_commons::Bundle& mainBundle() const override {
     if (!mainBundle_) mainBundle_.emplace([NSBundle bundleWithPath:main_.path()]);
     return *mainBundle_;
   }
   const qv_commons::Bundle& libraryBundle() const override {
-    if (!libraryBundle_) libraryBundle_.emplace([NSBundle bundleWithPath:library_.path()]);
-    return *libraryBundle_;
+    static const auto* const bundle =
+        new qv_commons::uikit::UIKitBundle([NSBundle bundleWithPath:makeLibrary()]);
+    return *bundle;
   }
   std::shared_ptr<qv_commons::Bundle> bundleWithURL(
       const qv_commons::FileLocation& location) const override {
@@ -77,6 +69,18 @@ class FolderBundles final : public qv_commons::Bundles {
   }
 
  private:
+  // One for all tests: gnustep-base takes a bundle for the one that it has opened already if both
+  // have the same identifier.
+  static NSString* makeLibrary() {
+    static const TemporaryFolder library(@"QV_Commons_iOS.framework");
+    NSString* name = @"QV_Commons_iOS.bundle";
+    [NSFileManager.defaultManager
+        copyItemAtPath:[NSBundle.mainBundle.bundlePath stringByAppendingPathComponent:name]
+                toPath:[library.path() stringByAppendingPathComponent:name]
+                 error:nullptr];
+    return library.path();
+  }
+
   static id toObject(const qv_commons::InfoDictionaryValue& value) {
     struct Visitor {
       id operator()(std::monostate) const { return nil; }
@@ -90,7 +94,5 @@ class FolderBundles final : public qv_commons::Bundles {
   }
 
   TemporaryFolder main_{@"Main.app"};
-  TemporaryFolder library_{@"QV_Commons_iOS.framework"};
   mutable std::optional<qv_commons::uikit::UIKitBundle> mainBundle_;
-  mutable std::optional<qv_commons::uikit::UIKitBundle> libraryBundle_;
 };

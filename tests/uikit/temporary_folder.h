@@ -17,7 +17,11 @@ class TemporaryFolder {
                                              attributes:nil
                                                   error:nullptr];
   }
-  ~TemporaryFolder() { [NSFileManager.defaultManager removeItemAtPath:parent_ error:nullptr]; }
+  ~TemporaryFolder() {
+    @autoreleasepool {
+      [NSFileManager.defaultManager removeItemAtPath:parent_ error:nullptr];
+    }
+  }
   TemporaryFolder(const TemporaryFolder&) = delete;
   TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
