@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Swift's own compiler over the public headers: the interface that Swift sees is the one expected,
 # the example and every accepted case compile in Swift 5 and 6, every refused case is turned down for
-# its reason. For Linux, where the interface of the platform is the mock in tests/swift, and, to
+# its reason; the app that docs/ios.md begins with compiles. For Linux, where the interface of the platform is the mock in tests/swift, and, to
 # Mach-O, for arm64-apple-ios11.0.
 #
 #     tools/swift_check.sh [OUT]        by default build/swift/out
@@ -48,7 +48,7 @@ check() {
   for version in 5 6; do
     swift "$target" -c -module-name Host -swift-version $version examples/ios_host/TimesViewController.swift \
       -o "$out/$target/host$version.o" || fail "$target: the example is refused in Swift $version"
-    for source in $tests/accepted/*.swift; do
+    for source in $tests/accepted/*.swift "$out/docs.swift"; do
       swift "$target" -emit-sil -module-name Case -swift-version $version "$source" -o "$out/case.sil" ||
         fail "$target: $source is refused in Swift $version"
     done
@@ -61,6 +61,10 @@ check() {
     fi
   done
 }
+
+# The app of docs/ios.md, as it stands there.
+awk '/^```swift/ { inside = 1; next } /^```/ { inside = 0 } inside' docs/ios.md >"$out/docs.swift"
+grep -q startAgeGateProcess "$out/docs.swift" || fail "docs/ios.md has no app"
 
 check linux
 echo >"$out/empty.swift"
