@@ -28,7 +28,7 @@ for package in lib*.deb zlib*.deb; do dpkg -x "$package" "$to/tree"; done
 dpkg --fsys-tarfile swiftlang_*.deb | tar -x -C "$to/tree" --wildcards \
   ./usr/libexec/swift/bin/swift-frontend './usr/libexec/swift/lib/swift/linux/*' \
   './usr/libexec/swift/lib/swift/shims/*' ./usr/libexec/swift/lib/swift/clang \
-  './usr/libexec/swift/lib/clang/17/include/*'
+  './usr/libexec/swift/lib/clang/17/include/*' './usr/libexec/swift/lib/swift/pm/ManifestAPI/*'
 private_apt source --download-only swiftlang
 for archive in swiftlang_*.orig*.tar.*; do
   tar -x -C "$to/source" -f "$archive" --wildcards '*/stdlib/public/core/*' '*/stdlib/public/Concurrency/*' \

@@ -12,12 +12,12 @@ namespace {
 
 // Not by NSClassFromString: a linker leaves out a class of a static library that is not
 // referred to.
-Class screenClass(NSString* nibName) {
+Class screenClass(std::string_view name) {
   for (Class type in
        @[ [QV_AgeGateViewController class], [QV_AgeGateRefusedViewController class] ]) {
-    if ([nibName isEqual:NSStringFromClass(type)]) return type;
+    if (name == toString(NSStringFromClass(type))) return type;
   }
-  fatalError("no screen class has the name of the layout " + toString(nibName));
+  fatalError(std::string("no screen class has the name of the layout ").append(name));
 }
 
 }  // namespace
@@ -42,11 +42,10 @@ std::shared_ptr<AlertController> UIKitViewControllers::makeAlertController(
 
 std::shared_ptr<LayoutScreen> UIKitViewControllers::initWithNibName(
     std::string_view name, std::shared_ptr<Bundle> bundle, const LayoutScreenFactory& make) {
-  NSString* nibName = toNSString(name);
   QV_LayoutViewController* controller =
-      [[screenClass(nibName) alloc] initWithNibName:nibName
-                                             bundle:toNSBundle(bundle.get())
-                                            factory:make];
+      [[screenClass(name) alloc] initWithNibName:toNSString(name)
+                                          bundle:toNSBundle(bundle.get())
+                                         factory:make];
   return std::static_pointer_cast<LayoutScreen>(retainedViewController(controller));
 }
 
