@@ -49,7 +49,7 @@ void encode(const unsigned char* in, std::size_t left, char* out, const Pairs& p
   if (left != 0) {
     const unsigned char second = left == 2 ? in[1] : 0;
     write(out, std::uint32_t{in[0]} << 4 | second >> 4);
-    if (left == 2) out[2] = kAlphabet[(second & 15) << 2];
+    if (left == 2) out[2] = kAlphabet[(second & 15U) << 2];
   }
 }
 
