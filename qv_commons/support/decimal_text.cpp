@@ -2,6 +2,7 @@
 
 #include <array>
 #include <charconv>
+#include <cinttypes>
 #include <cmath>
 #include <cstddef>
 #include <cstdio>
@@ -26,14 +27,14 @@ std::string thousandthsText(unsigned thousandths) {
 
 // The number digits * 10^exponent.
 struct Decimal {
-  long long digits;
+  std::int64_t digits;
   int exponent;
 };
 
 Decimal rounded(double magnitude, int digitCount) {
   std::array<char, 32> text;
   std::snprintf(text.data(), text.size(), "%.*e", digitCount - 1, magnitude);
-  long long digits = 0;
+  std::int64_t digits = 0;
   const char* at = text.data();
   for (; *at != 'e'; ++at) {
     const bool isDigit = *at >= '0' && *at <= '9';  // and not the locale's decimal point
@@ -45,7 +46,7 @@ Decimal rounded(double magnitude, int digitCount) {
 // The text that is read has no decimal point, which would have to be the locale's.
 double valueOf(Decimal decimal) {
   std::array<char, 32> text;
-  std::snprintf(text.data(), text.size(), "%llde%d", decimal.digits, decimal.exponent);
+  std::snprintf(text.data(), text.size(), "%" PRId64 "e%d", decimal.digits, decimal.exponent);
   return std::strtod(text.data(), nullptr);
 }
 
@@ -77,7 +78,8 @@ std::string magnitudeText(double magnitude) {
   // the same nearest double, so no other one is as short. The division gives the nearest double
   // because both operands are exact (IEEE 754).
   if (magnitude < 1e6) {
-    const auto thousandths = static_cast<unsigned>(magnitude * 1000 + 0.5);
+    const double halfAbove = magnitude * 1000 + 0.5;  // the cast rounds down
+    const auto thousandths = static_cast<unsigned>(halfAbove);
     if (thousandths / 1000.0 == magnitude) return thousandthsText(thousandths);
   }
   if (!std::isfinite(magnitude)) return std::isnan(magnitude) ? "nan" : "inf";
