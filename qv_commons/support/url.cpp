@@ -133,8 +133,7 @@ bool isURI(std::string_view text) {
 }  // namespace
 
 std::optional<URL> URL::parse(std::string text) {
-  if (!isURI(text)) return std::nullopt;
-  return URL(std::move(text));
+  return isURI(text) ? std::optional(URL(std::move(text))) : std::nullopt;
 }
 
 }  // namespace qv_commons

@@ -30,9 +30,7 @@ PlatformInteger QV_TimeHelper::currentTimeInSeconds() {
 }
 
 std::int64_t QV_TimeHelper::secondsToMinutes(std::int64_t seconds, bool roundUp) {
-  const std::int64_t minutes = seconds / 60;
-  const std::int64_t rest = seconds % 60;
-  return roundUp && rest > 1 ? minutes + 1 : minutes;  // a rest of one second is dropped, too
+  return seconds / 60 + (roundUp && seconds % 60 > 1 ? 1 : 0);  // one second more is dropped, too
 }
 
 PlatformInteger QV_TimeHelper::secondsToDays(PlatformInteger seconds) {
