@@ -74,7 +74,7 @@ def configure(arguments, build):
         'CMAKE_TRY_COMPILE_TARGET_TYPE': 'STATIC_LIBRARY',
         'CMAKE_AR': shutil.which('llvm-ar'), 'CMAKE_RANLIB': shutil.which('llvm-ranlib'),
         'CMAKE_INSTALL_NAME_TOOL': '/bin/true', 'CMAKE_EXPORT_COMPILE_COMMANDS': 'ON',
-        'QV_COMMONS_DESKTOP': 'OFF', 'QV_COMMONS_TESTS': 'OFF', 'QV_COMMONS_BENCH': 'OFF',
+        'QV_COMMONS_WARNINGS_AS_ERRORS': 'ON', 'QV_COMMONS_DESKTOP': 'OFF', 'QV_COMMONS_TESTS': 'OFF', 'QV_COMMONS_BENCH': 'OFF',
         'QV_COMMONS_FUZZ': 'OFF', 'QV_COMMONS_EXAMPLES': 'OFF'}
     for language in ('CXX', 'OBJCXX'):
         settings |= {f'CMAKE_{language}_COMPILER': shutil.which(arguments.compiler),

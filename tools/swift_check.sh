@@ -16,7 +16,7 @@ if [ "$(uname -m)" != x86_64 ] || ! command -v apt-get dpkg >/dev/null; then
   echo "swift: left out, needs Debian on x86-64"
   exit
 fi
-tools/get_swift.sh "$toolchain"
+tools/get_swift.sh "$toolchain" || { echo "swift: left out, its compiler could not be fetched"; exit; }
 rm -rf "$out"
 mkdir -p "$out"
 
