@@ -29,11 +29,13 @@ dpkg --fsys-tarfile swiftlang_*.deb | tar -x -C "$to/tree" --wildcards \
   ./usr/libexec/swift/bin/swift-frontend './usr/libexec/swift/lib/swift/linux/*' \
   './usr/libexec/swift/lib/swift/shims/*' ./usr/libexec/swift/lib/swift/clang \
   './usr/libexec/swift/lib/clang/17/include/*' './usr/libexec/swift/lib/swift/pm/ManifestAPI/*'
-private_apt source --download-only swiftlang
+# Its packaging, which a mirror may lack, is not needed.
+private_apt source --download-only swiftlang || ls swiftlang_*.orig.tar.* >/dev/null
 for archive in swiftlang_*.orig*.tar.*; do
   tar -x -C "$to/source" -f "$archive" --wildcards '*/stdlib/public/core/*' '*/stdlib/public/Concurrency/*' \
     '*/swift/utils/*.py' '*/utils/availability-macros.def' 2>/dev/null || true
 done
+find "$to/source" -name gyb.py | grep -q .
 rm -r "$to/packages" "$to/cache" "$to/lists"
 
 cat >"$to/swift-frontend" <<'SCRIPT'
