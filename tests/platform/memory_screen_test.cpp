@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <stdexcept>
 
 #include "qv_commons/app_info/bundle_file_helper.h"
 #include "qv_commons/platform/memory/memory_platform.h"
@@ -199,6 +200,23 @@ TEST_F(MemoryScreens, StopWhereAViewOrAnActionIsMissing) {
   EXPECT_DEATH(screen().tap("button"), "screen1 has no action onNothing:");
   EXPECT_DEATH(screen().tap("picker"), "screen1 has no such view: picker");
   EXPECT_DEATH(screen().pick("nothing", {}), "screen1 has no such view: nothing");
+}
+
+TEST_F(MemoryScreens, ListTheRightNamesAndFailAsTheHostWants) {
+  platform.viewControllers().onWrongName = [](const std::string& problem) {
+    throw std::runtime_error(problem);
+  };
+  const auto form = presentForm();
+  try {
+    screen().tap("buton");
+    FAIL() << "a wrong name passed";
+  } catch (const std::runtime_error& error) {
+    EXPECT_STREQ(error.what(),
+                 "screen1 has no such view: buton; it has: button (button) picker (date picker) "
+                 "text (text view)");
+  }
+  EXPECT_TRUE(screen().tap("button"));
+  EXPECT_THAT(form->events, ElementsAre("button"));
 }
 
 TEST_F(MemoryScreens, StopWhereTheLayoutIsMissing) {

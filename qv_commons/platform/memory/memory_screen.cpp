@@ -1,6 +1,8 @@
 #include "qv_commons/platform/memory/memory_screen.h"
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 #include <utility>
 
 #include "qv_commons/age_gate/tapped_link.h"
@@ -8,6 +10,11 @@
 
 namespace qv_commons::memory {
 namespace {
+
+std::string classText(ViewClass viewClass) {
+  constexpr std::array kTexts = {"view", "label", "button", "date picker", "text view"};
+  return kTexts.at(static_cast<std::size_t>(viewClass));
+}
 
 std::shared_ptr<View> makeView(Record& record, std::string name, const ViewLayout& layout) {
   switch (layout.viewClass) {
@@ -90,7 +97,12 @@ View* MemoryScreen::findView(std::string_view name) const {
 }
 
 void MemoryScreen::failWithoutView(std::string_view view) const {
-  fatalError(name() + " has no such view: " + std::string(view));
+  std::string problem = name() + " has no such view: " + std::string(view) + "; it has:";
+  for (const auto& [viewName, layout] : layout_) {
+    problem += " " + viewName + " (" + classText(layout.viewClass) + ")";
+  }
+  if (onWrongName) onWrongName(problem);
+  fatalError(problem);
 }
 
 }  // namespace qv_commons::memory

@@ -13,11 +13,13 @@
 // It loads its views when it is first presented.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
 #include <string_view>
 
+#include "qv_commons/export.h"
 #include "qv_commons/platform/application.h"
 #include "qv_commons/platform/layout_screen.h"
 #include "qv_commons/platform/memory/memory_controller.h"
@@ -26,7 +28,7 @@
 
 namespace qv_commons::memory {
 
-class MemoryScreen final : public NativeOf<ViewController, MemoryController> {
+class QV_COMMONS_EXPORT MemoryScreen final : public NativeOf<ViewController, MemoryController> {
  public:
   struct Source {
     std::shared_ptr<const MemoryBundle> bundle;
@@ -42,6 +44,10 @@ class MemoryScreen final : public NativeOf<ViewController, MemoryController> {
   // Connects the views and calls `viewDidLoad`, the first time. A layout that the bundle doesn't
   // have is a fatal error.
   void load();
+
+  // If set, is told of a name that no view has, with those that there are, before that becomes a
+  // fatal error; what it throws goes to the caller. The screen takes it from the factory's.
+  std::function<void(const std::string&)> onWrongName;
 
   // The view of that name, by its class: `view<MemoryLabel>("header").text()`. A fatal error if
   // the loaded screen has none of that name and class.

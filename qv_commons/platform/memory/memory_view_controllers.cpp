@@ -43,6 +43,7 @@ std::shared_ptr<LayoutScreen> MemoryViewControllers::initWithNibName(
   auto native =
       std::make_unique<MemoryScreen>(record_, transitions_, application_, std::move(screenName),
                                      MemoryScreen::Source{std::move(source), std::string(name)});
+  native->onWrongName = onWrongName;
   MemoryScreen& nativeScreen = *native;
   std::shared_ptr<LayoutScreen> screen = make(std::move(native));
   nativeScreen.setController(*screen);

@@ -5,18 +5,20 @@
 //     platform.viewControllers().mailOutcome = qv_commons::MailComposeResult::saved;
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "qv_commons/export.h"
 #include "qv_commons/platform/memory/memory_mail.h"
 #include "qv_commons/platform/memory/memory_screen.h"
 #include "qv_commons/platform/view_controllers.h"
 
 namespace qv_commons::memory {
 
-class MemoryViewControllers final : public ViewControllers {
+class QV_COMMONS_EXPORT MemoryViewControllers final : public ViewControllers {
  public:
   MemoryViewControllers(Record& record, Transitions& transitions, Application& application,
                         MemoryBundles& bundles)
@@ -26,6 +28,11 @@ class MemoryViewControllers final : public ViewControllers {
 
   // If set, each composer is finished with this as soon as it is on the screen.
   std::optional<MailComposeResult> mailOutcome;
+
+  // For each screen made from now on. With this, a name that no view has fails the one test, and
+  // not the whole program:
+  //     [](const std::string& problem) { throw std::runtime_error(problem); }
+  std::function<void(const std::string&)> onWrongName;
 
   // Every composer and every alert made so far, oldest first; in the record they are composer1,
   // composer2, alert1 and so on.
