@@ -18,19 +18,24 @@ function(qv_compile_options target)
   endif()
 endfunction()
 
-# A library of the project: target `name`, alias qv_commons::<export>.
+# A library of the project: target `name`, alias qv_commons::<export>, static or, with
+# BUILD_SHARED_LIBS, shared, of which only what is public can be seen from outside.
 function(qv_add_library name export)
-  add_library(${name} STATIC)
+  add_library(${name})
   add_library(qv_commons::${export} ALIAS ${name})
-  set_target_properties(${name} PROPERTIES EXPORT_NAME ${export} POSITION_INDEPENDENT_CODE ON)
-  target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
-                                            $<INSTALL_INTERFACE:include>)
+  set_target_properties(${name} PROPERTIES EXPORT_NAME ${export} POSITION_INDEPENDENT_CODE ON
+    VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
+    CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
   qv_compile_options(${name})
   if(APPLE)  # an app or a framework that links them shows the public classes alone
-    set_target_properties(${name} PROPERTIES CXX_VISIBILITY_PRESET hidden
-                          OBJCXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
+    set_target_properties(${name} PROPERTIES OBJCXX_VISIBILITY_PRESET hidden)
   endif()
+  target_compile_definitions(${name} PUBLIC $<$<BOOL:${BUILD_SHARED_LIBS}>:QV_COMMONS_SHARED>)
   # Nobody replaces functions of these libraries at load time, so g++ may inline them, as clang++ does.
   target_compile_options(${name} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-semantic-interposition>)
-  set_property(GLOBAL APPEND PROPERTY QV_COMMONS_LIBRARIES ${name})
+endfunction()
+
+# The public headers of the library `name`, installed as they lie in the tree; all others stay here.
+function(qv_public_headers name)
+  target_sources(${name} PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES ${ARGN})
 endfunction()

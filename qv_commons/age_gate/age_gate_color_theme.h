@@ -15,13 +15,14 @@
 
 #include <memory>
 
+#include "qv_commons/export.h"
 #include "qv_commons/platform/color.h"
 
 namespace qv_commons {
 
 struct Platform;
 
-class QV_AgeGateColorTheme {
+class QV_COMMONS_EXPORT QV_AgeGateColorTheme {
  public:
   // The order differs from that of the fields: the panel's background comes first, and
   // `buttonBackgroundColor` is kept in `buttonBGColor`.
@@ -42,9 +43,10 @@ class QV_AgeGateColorTheme {
 };
 
 // What `defaultTheme()` decides, from its two inputs alone. Any thread.
-std::shared_ptr<QV_AgeGateColorTheme> defaultThemeFor(bool systemIsAtLeast13, bool styleIsDark);
+QV_COMMONS_EXPORT std::shared_ptr<QV_AgeGateColorTheme> defaultThemeFor(bool systemIsAtLeast13,
+                                                                        bool styleIsDark);
 
 // `defaultTheme()` for a given platform. The look is read from version 13.0 on only.
-std::shared_ptr<QV_AgeGateColorTheme> defaultThemeOf(const Platform& platform);
+QV_COMMONS_EXPORT std::shared_ptr<QV_AgeGateColorTheme> defaultThemeOf(const Platform& platform);
 
 }  // namespace qv_commons

@@ -8,6 +8,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "qv_commons/export.h"
+
 namespace qv_commons {
 
 class UserDefaults;
@@ -27,6 +29,6 @@ constexpr AgeGateStartDecision decideAgeGateStart(bool shown, bool blocked) {
 }
 
 // Reads the flags and decides; the second is read only if the first is true. Main thread.
-AgeGateStartDecision decideAgeGateStart(const UserDefaults& userDefaults);
+QV_COMMONS_EXPORT AgeGateStartDecision decideAgeGateStart(const UserDefaults& userDefaults);
 
 }  // namespace qv_commons

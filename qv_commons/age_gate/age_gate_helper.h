@@ -18,11 +18,12 @@
 
 #include "qv_commons/age_gate/age_gate_color_theme.h"
 #include "qv_commons/age_gate/contact_us_handler.h"
+#include "qv_commons/export.h"
 #include "qv_commons/platform/view_controller.h"
 
 namespace qv_commons {
 
-class QV_AgeGateHelper {
+class QV_COMMONS_EXPORT QV_AgeGateHelper {
  public:
   // If no date of birth was confirmed yet, has `viewController` present the age gate screen and
   // returns; when the user confirms, that screen calls `completion` if the age in whole years is

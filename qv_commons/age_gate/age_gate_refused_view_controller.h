@@ -17,11 +17,13 @@
 
 #include "qv_commons/age_gate/age_gate_color_theme.h"
 #include "qv_commons/age_gate/contact_us_handler.h"
+#include "qv_commons/export.h"
 #include "qv_commons/platform/layout_screen.h"
 
 namespace qv_commons {
 
-class QV_AgeGateRefusedViewController final : public LayoutScreen, public TextViewDelegate {
+class QV_COMMONS_EXPORT QV_AgeGateRefusedViewController final : public LayoutScreen,
+                                                                public TextViewDelegate {
  public:
   // Also the name of its layout.
   static constexpr std::string_view kClassName = "QV_AgeGateRefusedViewController";

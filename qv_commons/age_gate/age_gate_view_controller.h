@@ -19,11 +19,12 @@
 
 #include "qv_commons/age_gate/age_gate_color_theme.h"
 #include "qv_commons/age_gate/contact_us_handler.h"
+#include "qv_commons/export.h"
 #include "qv_commons/platform/layout_screen.h"
 
 namespace qv_commons {
 
-class QV_AgeGateViewController final : public LayoutScreen {
+class QV_COMMONS_EXPORT QV_AgeGateViewController final : public LayoutScreen {
  public:
   // Also the name of its layout.
   static constexpr std::string_view kClassName = "QV_AgeGateViewController";

@@ -11,6 +11,7 @@
 
 #include <cstdint>
 
+#include "qv_commons/export.h"
 #include "qv_commons/platform/calendar.h"
 
 namespace qv_commons {
@@ -25,10 +26,10 @@ struct BirthDate {
 // The whole calendar years from `birth` to `now`, as `calendar` counts them: a year is complete
 // when the month, day and time of day of the birth have been reached again. A future date gives 0,
 // or minus the whole years until then. Asks the calendar once; a fatal error if it can't tell.
-std::int64_t ageInYears(BirthDate birth, Instant now, const Calendar& calendar);
+QV_COMMONS_EXPORT std::int64_t ageInYears(BirthDate birth, Instant now, const Calendar& calendar);
 
 // Allowed if the age is `minimumAge` or more.
-AgeGateVerdict judgeBirthDate(BirthDate birth, Instant now, const Calendar& calendar,
-                              std::int64_t minimumAge);
+QV_COMMONS_EXPORT AgeGateVerdict judgeBirthDate(BirthDate birth, Instant now,
+                                                const Calendar& calendar, std::int64_t minimumAge);
 
 }  // namespace qv_commons

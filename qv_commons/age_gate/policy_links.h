@@ -13,6 +13,7 @@
 
 #include <string_view>
 
+#include "qv_commons/export.h"
 #include "qv_commons/platform/text_range.h"
 
 namespace qv_commons {
@@ -33,11 +34,12 @@ inline constexpr std::string_view kContactLink = "mailto";
 // empty, or no URL at all, they are still what the link holds.
 //
 // A view without a text, or with one of fewer than 33 units, is a fatal error.
-void applyPolicyLinks(TextView& textView, std::string_view privacyLink,
-                      std::string_view termsOfServiceLink, const QV_AgeGateColorTheme& theme);
+QV_COMMONS_EXPORT void applyPolicyLinks(TextView& textView, std::string_view privacyLink,
+                                        std::string_view termsOfServiceLink,
+                                        const QV_AgeGateColorTheme& theme);
 
 // The same with one link, to "mailto", over the units 38 to 59. A view without a text, or with one
 // of fewer than 60 units, is a fatal error.
-void applyContactLink(TextView& textView, const QV_AgeGateColorTheme& theme);
+QV_COMMONS_EXPORT void applyContactLink(TextView& textView, const QV_AgeGateColorTheme& theme);
 
 }  // namespace qv_commons

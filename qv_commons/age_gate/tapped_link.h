@@ -4,6 +4,7 @@
 
 #include <string_view>
 
+#include "qv_commons/export.h"
 #include "qv_commons/platform/text_range.h"
 
 namespace qv_commons {
@@ -14,7 +15,8 @@ class TextViewDelegate;
 
 // Asks `delegate`, if there is one, whether the system opens the link `value` at `range`. Without a
 // delegate, or if it says so, the system opens it; a value that is not a URL is ignored.
-void interactWithLink(TextView& textView, TextViewDelegate* delegate, std::string_view value,
-                      TextRange range, Application& application);
+QV_COMMONS_EXPORT void interactWithLink(TextView& textView, TextViewDelegate* delegate,
+                                        std::string_view value, TextRange range,
+                                        Application& application);
 
 }  // namespace qv_commons

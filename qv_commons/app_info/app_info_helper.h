@@ -9,11 +9,13 @@
 
 #include <string>
 
+#include "qv_commons/export.h"
+
 namespace qv_commons {
 
 class Bundle;
 
-class QV_AppInfoHelper {
+class QV_COMMONS_EXPORT QV_AppInfoHelper {
  public:
   // "CFBundleShortVersionString", then "CFBundleVersion" in parentheses, with nothing between them:
   // "2.4.1(317)". The parentheses are always there: "()" if both keys are missing.

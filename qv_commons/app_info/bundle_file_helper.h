@@ -14,11 +14,12 @@
 #include <string>
 #include <string_view>
 
+#include "qv_commons/export.h"
 #include "qv_commons/platform/bundle.h"
 
 namespace qv_commons {
 
-class QV_BundleFileHelper {
+class QV_COMMONS_EXPORT QV_BundleFileHelper {
  public:
   // "QV_Commons_iOS.bundle" next to the library's code; null, without a message, if it is missing
   // or can't be opened.

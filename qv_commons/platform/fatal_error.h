@@ -9,10 +9,12 @@
 
 #include <string_view>
 
+#include "qv_commons/export.h"
+
 namespace qv_commons {
 
 // Prints "QV_Commons fatal error: " and `message` as one line to the standard error stream, then
 // aborts. Never returns. Any thread.
-[[noreturn]] void fatalError(std::string_view message);
+[[noreturn]] QV_COMMONS_EXPORT void fatalError(std::string_view message);
 
 }  // namespace qv_commons

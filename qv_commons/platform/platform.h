@@ -11,6 +11,8 @@
 // at its entry, and passes on what is needed.
 #pragma once
 
+#include "qv_commons/export.h"
+
 namespace qv_commons {
 
 class Application;
@@ -35,13 +37,13 @@ struct Platform {
 
 // Makes `platform` the current one until another is installed. It must outlive its installation.
 // Install before other threads use the library.
-void installPlatform(const Platform& platform);
+QV_COMMONS_EXPORT void installPlatform(const Platform& platform);
 
 // The current platform; a fatal error if none is installed. Any thread.
-const Platform& currentPlatform();
+QV_COMMONS_EXPORT const Platform& currentPlatform();
 
 // Installs a platform for a scope and then restores the one before.
-class ScopedPlatform {
+class QV_COMMONS_EXPORT ScopedPlatform {
  public:
   explicit ScopedPlatform(const Platform& platform);
   ~ScopedPlatform();

@@ -24,6 +24,7 @@
 #include <utility>
 #include <vector>
 
+#include "qv_commons/export.h"
 #include "qv_commons/platform/view_controller.h"
 
 namespace qv_commons {
@@ -32,7 +33,7 @@ class NativeController;
 
 // Who presents whom on an adapter's screens, in the order of presenting. Keeps both alive. Outlives
 // its controllers.
-class Presentations {
+class QV_COMMONS_EXPORT Presentations {
  public:
   // Dismisses everything that is presented, without animation.
   void dismissAll();
@@ -46,7 +47,7 @@ class Presentations {
   std::vector<Presentation> current_;
 };
 
-class NativeController {
+class QV_COMMONS_EXPORT NativeController {
  public:
   // The native of `controller`, which is either that controller itself or, for the library's
   // screens, the one that owns it. Both live equally long.

@@ -6,6 +6,8 @@
 
 #include <string>
 
+#include "qv_commons/export.h"
+
 namespace qv_commons {
 
 // Always positional and always with a fraction: whole numbers end in ".0", a minus sign comes
@@ -14,6 +16,6 @@ namespace qv_commons {
 //
 // Written here because floating-point std::to_chars is missing from the C++ library of the oldest
 // system that the library runs on.
-std::string decimalText(double value);
+QV_COMMONS_EXPORT std::string decimalText(double value);
 
 }  // namespace qv_commons

@@ -6,11 +6,12 @@
 // unless a family sets its own. Every call gives an equal URL, and none fails. Any thread.
 #pragma once
 
+#include "qv_commons/export.h"
 #include "qv_commons/support/url.h"
 
 namespace qv_commons {
 
-class QV_Links {
+class QV_COMMONS_EXPORT QV_Links {
  public:
   // "https://www.example.com/privacy/"
   static URL privacyPolicy();

@@ -5,9 +5,11 @@
 
 #include <string>
 
+#include "qv_commons/export.h"
+
 namespace qv_commons {
 
-class QV_RateHelper {
+class QV_COMMONS_EXPORT QV_RateHelper {
  public:
   // Asks the system to open
   // "itms-apps://apps.apple.com/app/" + `appId` + "?mt=8&action=write-review".

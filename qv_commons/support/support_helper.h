@@ -18,6 +18,7 @@
 #include <string_view>
 #include <vector>
 
+#include "qv_commons/export.h"
 #include "qv_commons/platform/mail_composer.h"
 #include "qv_commons/platform/view_controller.h"
 
@@ -32,8 +33,9 @@ class QV_SupportHelperDelegate {
   virtual void onCompletion() = 0;
 };
 
-class QV_SupportHelper final : public MailComposeDelegate,
-                               public std::enable_shared_from_this<QV_SupportHelper> {
+class QV_COMMONS_EXPORT QV_SupportHelper final
+    : public MailComposeDelegate,
+      public std::enable_shared_from_this<QV_SupportHelper> {
  public:
   // The one instance for the whole process: made on first use, exactly once, never destroyed.
   static QV_SupportHelper& shared();

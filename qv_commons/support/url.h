@@ -11,9 +11,11 @@
 #include <optional>
 #include <string>
 
+#include "qv_commons/export.h"
+
 namespace qv_commons {
 
-class URL {
+class QV_COMMONS_EXPORT URL {
  public:
   // std::nullopt if `text` is not of the form "URI" of RFC 3986, appendix A: an empty text, a
   // space, a control or a non-ASCII character, a "%" without two hexadecimal digits, any of

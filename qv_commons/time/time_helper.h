@@ -14,6 +14,8 @@
 #include <string_view>
 #include <type_traits>
 
+#include "qv_commons/export.h"
+
 namespace qv_commons {
 
 // The platform's plain integer if that has 64 bits, which need not be the same type as
@@ -21,7 +23,7 @@ namespace qv_commons {
 using PlatformInteger =
     std::conditional_t<sizeof(std::ptrdiff_t) == 8, std::ptrdiff_t, std::int64_t>;
 
-class QV_TimeHelper {
+class QV_COMMONS_EXPORT QV_TimeHelper {
  public:
   // Milliseconds since 1970-01-01 00:00:00 UTC, for example 1700000000123. The clock's seconds
   // times 1000.0, cut off and never rounded: a reading of 1.001 s gives 1000, because the product

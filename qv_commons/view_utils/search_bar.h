@@ -11,10 +11,12 @@
 // Main thread only.
 #pragma once
 
+#include "qv_commons/export.h"
+
 namespace qv_commons {
 
 // Whether the system has version 13.0.0 or later, in which search bars publish their text field.
-bool searchTextFieldIsPublished();
+QV_COMMONS_EXPORT bool searchTextFieldIsPublished();
 
 // The text field inside `searchBar`, which belongs to it: from version 13.0.0 of the system on
 // `searchTextField()`; before, `toTextField` of the value for the private key "_searchField", null

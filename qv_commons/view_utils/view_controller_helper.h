@@ -8,11 +8,12 @@
 // Main thread.
 #pragma once
 
+#include "qv_commons/export.h"
 #include "qv_commons/platform/view_controller.h"
 
 namespace qv_commons {
 
-class QV_ViewControllerHelper {
+class QV_COMMONS_EXPORT QV_ViewControllerHelper {
  public:
   // Goes from `controller` to what it shows, again and again, until nothing more is shown: from a
   // navigation controller to its visible controller, from a tab bar controller to its selected one

@@ -1,15 +1,19 @@
 #!/usr/bin/env bash
-# find_package without components, from a prefix, by a program outside of it.
+# The README's two projects, whole: find_package from a prefix, by programs outside of it.
 source "$(dirname "$0")/lib.sh"
-take_program
-cat >CMakeLists.txt <<'END'
-cmake_minimum_required(VERSION 3.25)
-project(notes LANGUAGES CXX)
-find_package(qv_commons 1.0 REQUIRED)
-find_package(Qt6 REQUIRED COMPONENTS Widgets)
-add_executable(notes main.cpp)
-target_link_libraries(notes PRIVATE qv_commons::desktop Qt6::Widgets)
-END
-quietly cmake -B build -DCMAKE_PREFIX_PATH="$SHARED/prefix"
-quietly cmake --build build
-expect_gate build/notes
+prefix=-DCMAKE_PREFIX_PATH=$SHARED/prefix
+cp -r "$SOURCE/examples/notes" "$SOURCE/examples/notes_test" .
+quietly cmake -S notes_test -B test "$prefix"
+quietly cmake --build test
+quietly ctest --test-dir test --no-tests=error
+
+# The app runs until somebody ends it.
+quietly cmake -S notes -B app "$prefix"
+quietly cmake --build app
+result=0
+XDG_DATA_HOME=$folder/data timeout 3 app/notes 2>log || result=$?
+[ $result = 124 ] || { cat log; fail "the app ended by itself, with $result"; }
+
+cp "$routes/program/main.cpp" notes/main.cpp
+quietly cmake --build app
+expect_gate app/notes

@@ -19,6 +19,7 @@
 #include <string>
 #include <vector>
 
+#include "qv_commons/export.h"
 #include "qv_commons/platform/desktop/calendar_settings.h"
 #include "qv_commons/platform/device.h"
 #include "qv_commons/platform/platform.h"
@@ -70,7 +71,7 @@ struct DesktopSettings {
   std::function<void(std::string)> onError = {};
 };
 
-class DesktopPlatform {
+class QV_COMMONS_EXPORT DesktopPlatform {
  public:
   explicit DesktopPlatform(DesktopSettings settings);
 

@@ -9,18 +9,19 @@
 #include <cstdint>
 #include <optional>
 
+#include "qv_commons/export.h"
 #include "qv_commons/platform/calendar.h"
 #include "qv_commons/platform/memory/record.h"
 
 namespace qv_commons::memory {
 
 // Midnight UTC at the beginning of that day: the month from 1 to 12, the day from 1.
-Instant utcDate(std::int64_t year, int month, int day);
+QV_COMMONS_EXPORT Instant utcDate(std::int64_t year, int month, int day);
 
 // A year that began on 29 February is complete on 28 February of a common year, at the same time of
 // day. Instants that are not a number, or more than 10^13 seconds (some 317,000 years) from 1970,
 // give std::nullopt.
-class MemoryCalendar final : public Calendar {
+class QV_COMMONS_EXPORT MemoryCalendar final : public Calendar {
  public:
   explicit MemoryCalendar(Record& record) : record_(record) {}
 

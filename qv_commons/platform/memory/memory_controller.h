@@ -8,13 +8,14 @@
 
 #include <string>
 
+#include "qv_commons/export.h"
 #include "qv_commons/platform/memory/record.h"
 #include "qv_commons/platform/memory/transitions.h"
 #include "qv_commons/platform/presentation.h"
 
 namespace qv_commons::memory {
 
-class MemoryController : public NativeController {
+class QV_COMMONS_EXPORT MemoryController : public NativeController {
  public:
   // `name` stands for the controller in the record's lines.
   MemoryController(ViewController& controller, Record& record, Transitions& transitions,

@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "qv_commons/export.h"
 #include "qv_commons/platform/application.h"
 #include "qv_commons/platform/bundle.h"
 #include "qv_commons/platform/clock.h"
@@ -21,7 +22,7 @@
 
 namespace qv_commons::memory {
 
-class MemoryBundle final : public Bundle {
+class QV_COMMONS_EXPORT MemoryBundle final : public Bundle {
  public:
   // `name` stands for the bundle in the record's lines.
   MemoryBundle(Record& record, std::string name) : record_(record), name_(std::move(name)) {}
@@ -45,7 +46,7 @@ class MemoryBundle final : public Bundle {
   std::string name_;
 };
 
-class MemoryBundles final : public Bundles {
+class QV_COMMONS_EXPORT MemoryBundles final : public Bundles {
  public:
   // At first the library's bundle has the resource bundle, which holds the layouts of both screens.
   explicit MemoryBundles(Record& record);
@@ -73,7 +74,7 @@ class MemoryBundles final : public Bundles {
   std::shared_ptr<MemoryBundle> resources_;
 };
 
-class MemoryConsole final : public Console {
+class QV_COMMONS_EXPORT MemoryConsole final : public Console {
  public:
   explicit MemoryConsole(Record& record) : record_(record) {}
 
@@ -85,7 +86,7 @@ class MemoryConsole final : public Console {
   Record& record_;
 };
 
-class MemoryDevice final : public Device {
+class QV_COMMONS_EXPORT MemoryDevice final : public Device {
  public:
   explicit MemoryDevice(Record& record) : record_(record) {}
 
@@ -106,7 +107,7 @@ class MemoryDevice final : public Device {
   Record& record_;
 };
 
-class MemoryClock final : public Clock {
+class QV_COMMONS_EXPORT MemoryClock final : public Clock {
  public:
   explicit MemoryClock(Record& record) : record_(record) {}
 
@@ -118,7 +119,7 @@ class MemoryClock final : public Clock {
   Record& record_;
 };
 
-class MemoryApplication final : public Application {
+class QV_COMMONS_EXPORT MemoryApplication final : public Application {
  public:
   explicit MemoryApplication(Record& record) : record_(record) {}
 

@@ -12,6 +12,7 @@
 #include <optional>
 #include <string>
 
+#include "qv_commons/export.h"
 #include "qv_commons/platform/views.h"
 
 namespace qv_commons::memory {
@@ -30,7 +31,7 @@ struct ViewLayout {
 using MemoryLayout = std::map<std::string, ViewLayout, std::less<>>;
 
 // The layouts of the library's two screens.
-MemoryLayout ageGateLayout();
-MemoryLayout ageGateRefusedLayout();
+QV_COMMONS_EXPORT MemoryLayout ageGateLayout();
+QV_COMMONS_EXPORT MemoryLayout ageGateRefusedLayout();
 
 }  // namespace qv_commons::memory

@@ -10,13 +10,14 @@
 #include <string>
 #include <vector>
 
+#include "qv_commons/export.h"
 #include "qv_commons/platform/alert.h"
 #include "qv_commons/platform/mail_composer.h"
 #include "qv_commons/platform/memory/memory_controller.h"
 
 namespace qv_commons::memory {
 
-class MemoryMailComposer final : public NativeOf<MailComposer, MemoryController> {
+class QV_COMMONS_EXPORT MemoryMailComposer final : public NativeOf<MailComposer, MemoryController> {
  public:
   // `outcome`, if given, is how the user leaves it as soon as it is on the screen.
   MemoryMailComposer(Record& record, Transitions& transitions, std::string name,
@@ -50,7 +51,7 @@ class MemoryMailComposer final : public NativeOf<MailComposer, MemoryController>
   std::weak_ptr<MailComposeDelegate> delegate_;
 };
 
-class MemoryAlert final : public NativeOf<AlertController, MemoryController> {
+class QV_COMMONS_EXPORT MemoryAlert final : public NativeOf<AlertController, MemoryController> {
  public:
   struct Action {
     std::string title;

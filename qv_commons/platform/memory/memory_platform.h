@@ -19,6 +19,7 @@
 #include <memory>
 #include <string>
 
+#include "qv_commons/export.h"
 #include "qv_commons/platform/memory/memory_calendar.h"
 #include "qv_commons/platform/memory/memory_host.h"
 #include "qv_commons/platform/memory/memory_user_defaults.h"
@@ -29,7 +30,7 @@
 
 namespace qv_commons::memory {
 
-class MemoryPlatform {
+class QV_COMMONS_EXPORT MemoryPlatform {
  public:
   MemoryPlatform();
 

@@ -14,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "qv_commons/export.h"
 #include "qv_commons/platform/memory/memory_views.h"
 
 namespace qv_commons::memory {
@@ -25,7 +26,7 @@ struct Link {
   friend bool operator==(const Link&, const Link&) = default;
 };
 
-class MemoryAttributedString final : public AttributedString {
+class QV_COMMONS_EXPORT MemoryAttributedString final : public AttributedString {
  public:
   // `name` stands for the text in the record's lines.
   MemoryAttributedString(Record& record, std::string name, std::u16string text,
@@ -53,7 +54,7 @@ class MemoryAttributedString final : public AttributedString {
   std::optional<Color> foreground_;
 };
 
-class MemoryTextView final : public MemoryViewOf<TextView> {
+class QV_COMMONS_EXPORT MemoryTextView final : public MemoryViewOf<TextView> {
  public:
   MemoryTextView(Record& record, std::string name, const ViewLayout& layout);
 

@@ -14,6 +14,7 @@
 #include <utility>
 #include <vector>
 
+#include "qv_commons/export.h"
 #include "qv_commons/platform/memory/memory_layout.h"
 #include "qv_commons/platform/memory/record.h"
 #include "qv_commons/platform/views.h"
@@ -22,7 +23,7 @@
 namespace qv_commons::memory {
 
 // "1.0 1.0 1.0 1.0": red, green, blue, alpha.
-std::string textOf(const Color& color);
+QV_COMMONS_EXPORT std::string textOf(const Color& color);
 
 // What all views have in common.
 template <class Interface>
@@ -69,7 +70,7 @@ class MemoryView final : public MemoryViewOf<View> {
   using MemoryViewOf::MemoryViewOf;
 };
 
-class MemoryLabel final : public MemoryViewOf<Label> {
+class QV_COMMONS_EXPORT MemoryLabel final : public MemoryViewOf<Label> {
  public:
   MemoryLabel(Record& record, std::string name, std::optional<std::string> text)
       : MemoryViewOf(record, std::move(name)), text_(std::move(text)) {}
@@ -85,7 +86,7 @@ class MemoryLabel final : public MemoryViewOf<Label> {
   std::optional<Color> textColor_;
 };
 
-class MemoryButton final : public MemoryViewOf<Button> {
+class QV_COMMONS_EXPORT MemoryButton final : public MemoryViewOf<Button> {
  public:
   using MemoryViewOf::MemoryViewOf;
 
@@ -102,7 +103,7 @@ class MemoryButton final : public MemoryViewOf<Button> {
   std::array<std::optional<Color>, 3> titleColors_;  // by the numeric value of the state
 };
 
-class MemoryDatePicker final : public MemoryViewOf<DatePicker> {
+class QV_COMMONS_EXPORT MemoryDatePicker final : public MemoryViewOf<DatePicker> {
  public:
   using MemoryViewOf::MemoryViewOf;
 

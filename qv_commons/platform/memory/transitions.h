@@ -10,11 +10,12 @@
 #include <cstddef>
 #include <deque>
 
+#include "qv_commons/export.h"
 #include "qv_commons/platform/presentation.h"
 
 namespace qv_commons::memory {
 
-class Transitions {
+class QV_COMMONS_EXPORT Transitions {
  public:
   // By hand, completions wait for `runNext` or `runAll`; otherwise, and at first, they run at once.
   void setByHand(bool byHand) { byHand_ = byHand; }
