@@ -1,4 +1,4 @@
-"""The README's program is the compiled example, its pictures are there, its commands are real."""
+"""The README's programs are the compiled examples, its pictures are there, its commands are real."""
 import pathlib
 import re
 import sys
@@ -9,12 +9,16 @@ README = (ROOT / "README.md").read_text(encoding="utf-8")
 
 
 class Readme(unittest.TestCase):
-    def test_shows_the_compiled_example(self):
-        shown = re.search(r"```cpp\n(.*?)```", README, re.S).group(1)
-        self.assertEqual(shown, (ROOT / "examples/quickstart/main.cpp").read_text(encoding="utf-8"))
+    def test_shows_the_compiled_examples(self):
+        shown = re.findall(r"```(?:cpp|cmake)\n(.*?)```", README, re.S)
+        files = ["quickstart/main.cpp", "notes/CMakeLists.txt", "notes/main.cpp",
+                 "notes_test/CMakeLists.txt", "notes_test/main.cpp"]
+        self.assertEqual(
+            shown, [(ROOT / "examples" / file).read_text(encoding="utf-8") for file in files])
 
     def test_links_to_files_that_are_there(self):
-        links = re.findall(r"\]\(([^)#:]+)\)", README)
+        text = re.sub(r"```.*?```", "", README, flags=re.S)
+        links = re.findall(r"\]\(([^)#:]+)\)", text)
         self.assertTrue(links)
         self.assertEqual([link for link in links if not (ROOT / link).exists()], [])
 
