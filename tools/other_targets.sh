@@ -73,7 +73,7 @@ apple() {
     -D_GNU_SOURCE ${*:5}"
   local options=()
   for language in CXX OBJCXX; do
-    options+=("-DCMAKE_${language}_COMPILER=clang++-19" "-DCMAKE_${language}_COMPILER_TARGET=$4"
+    options+=("-DCMAKE_${language}_COMPILER=$(command -v clang++-19)" "-DCMAKE_${language}_COMPILER_TARGET=$4"
       "-DCMAKE_${language}_COMPILER_WORKS=1" "-DCMAKE_${language}_FLAGS=${flags//$'\n'/ }")
   done
   build "$1" -DCMAKE_SYSTEM_NAME="$2" -DCMAKE_OSX_SYSROOT="$sdk" -DCMAKE_OSX_DEPLOYMENT_TARGET=11.0 \
