@@ -6,10 +6,12 @@
 #include <string>
 #include <string_view>
 
+#include "qv_commons/export.h"
+
 namespace qv_commons {
 
 // Four characters for every three bytes begun; "" for no bytes. One allocation, that of the result.
 // Any thread.
-std::string base64Encoded(std::string_view bytes);
+QV_COMMONS_EXPORT std::string base64Encoded(std::string_view bytes);
 
 }  // namespace qv_commons

@@ -12,8 +12,8 @@ for name in qv_commons qv_commons_memory qv_commons_desktop; do
   objdump -p "$lib/lib$name.so" | grep -q "SONAME *lib$name.so.1$" || fail "lib$name.so has no SONAME"
 done
 shown=$(nm -DC --defined-only "$lib"/libqv_commons*.so)
-grep -q " T qv_commons::QV_TimeHelper::secondsToHms(" <<<"$shown" || fail "a public function is hidden"
-! grep -E "base64Encoded|findLayout|WheelDatePicker" <<<"$shown" || fail "shown, though not public"
+grep -q " T qv_commons::QV_TimeHelper::secondsToDays(" <<<"$shown" || fail "a public function is hidden"
+! grep -E "fillInAppName|findLayout|WheelDatePicker" <<<"$shown" || fail "shown, though not public"
 
 export PKG_CONFIG_PATH=$lib/pkgconfig LD_LIBRARY_PATH=$lib
 take_memory_program
