@@ -6,7 +6,6 @@
 #include "qv_commons/age_gate/age_gate_helper.h"
 #include "qv_commons/age_gate/age_gate_refused_view_controller.h"
 #include "qv_commons/age_gate/age_gate_view_controller.h"
-#include "qv_commons/age_gate/birth_date.h"
 #include "qv_commons/age_gate/policy_links.h"
 #include "qv_commons/app_info/app_info_helper.h"
 #include "qv_commons/app_info/bundle_file_helper.h"

@@ -10,6 +10,7 @@
 #include "qv_commons/platform/bundle.h"
 #include "qv_commons/platform/fatal_error.h"
 #include "qv_commons/platform/platform.h"
+#include "qv_commons/platform/views.h"
 
 namespace qv_commons {
 namespace {

@@ -19,8 +19,11 @@
 #include "qv_commons/age_gate/contact_us_handler.h"
 #include "qv_commons/export.h"
 #include "qv_commons/platform/layout_screen.h"
+#include "qv_commons/platform/text_view_delegate.h"
 
 namespace qv_commons {
+
+class Label;
 
 class QV_COMMONS_EXPORT QV_AgeGateRefusedViewController final : public LayoutScreen,
                                                                 public TextViewDelegate {

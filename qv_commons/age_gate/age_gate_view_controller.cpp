@@ -10,6 +10,7 @@
 #include "qv_commons/platform/clock.h"
 #include "qv_commons/platform/platform.h"
 #include "qv_commons/platform/user_defaults.h"
+#include "qv_commons/platform/views.h"
 
 namespace qv_commons {
 

@@ -24,6 +24,11 @@
 
 namespace qv_commons {
 
+class Button;
+class DatePicker;
+class Label;
+class TextView;
+
 class QV_COMMONS_EXPORT QV_AgeGateViewController final : public LayoutScreen {
  public:
   // Also the name of its layout.

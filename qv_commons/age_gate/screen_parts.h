@@ -9,6 +9,7 @@
 #include "qv_commons/app_info/bundle_file_helper.h"
 #include "qv_commons/platform/platform.h"
 #include "qv_commons/platform/view_controllers.h"
+#include "qv_commons/platform/views.h"
 
 namespace qv_commons {
 

@@ -22,9 +22,10 @@
 #include <vector>
 
 #include "qv_commons/platform/view_controller.h"
-#include "qv_commons/platform/views.h"
 
 namespace qv_commons {
+
+class View;
 
 // A view of the layout by its name, and the screen's weak reference to it.
 struct Outlet {

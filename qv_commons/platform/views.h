@@ -12,6 +12,7 @@
 #include "qv_commons/platform/color.h"
 #include "qv_commons/platform/instant.h"
 #include "qv_commons/platform/text_range.h"
+#include "qv_commons/platform/text_view_delegate.h"
 
 namespace qv_commons {
 
@@ -57,16 +58,6 @@ class AttributedString {
   // Marks `range`, which lies within the text, as a link with that value; the value is kept as it
   // is, whether or not it is a URL.
   virtual void addLink(std::string_view value, TextRange range) = 0;
-};
-
-class TextView;
-
-class TextViewDelegate {
- public:
-  virtual ~TextViewDelegate() = default;
-
-  // The user tapped the link `url` at `range`. True: the system opens it.
-  virtual bool shouldInteractWithURL(TextView& textView, std::string_view url, TextRange range) = 0;
 };
 
 class TextView : public View {
