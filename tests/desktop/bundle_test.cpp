@@ -58,6 +58,93 @@ TEST_F(BundleFolders, ReadBinary) {
   EXPECT_THAT(errors_, IsEmpty());
 }
 
+InfoDictionaryValue valueIn(const std::string& elements) {
+  const std::optional<InfoDictionary> info = parseInfoDictionary(plist(elements));
+  return info && info->contains("k") ? info->at("k") : OtherObject{};
+}
+
+TEST(PropertyList, HoldsValuesOfEachKind) {
+  EXPECT_EQ(
+      std::get<std::string>(valueIn("<key>k</key><string>a<![CDATA[<b>]]>&#x1f4ee;</string>")),
+      "a<b>📮");
+  EXPECT_EQ(std::get<std::string>(valueIn("<key>k</key><string/>")), "");
+  const std::pair<const char*, std::int64_t> integers[] = {
+      {"317", 317}, {" -5 ", -5}, {"0x10", 16}, {"010", 10}, {"18446744073709551615", -1}};
+  for (const auto& [text, number] : integers) {
+    EXPECT_EQ(
+        std::get<std::int64_t>(valueIn("<key>k</key><integer>" + std::string(text) + "</integer>")),
+        number);
+  }
+  EXPECT_EQ(std::get<double>(valueIn("<key>k</key><real>1.5</real>")), 1.5);
+  EXPECT_TRUE(std::get<bool>(valueIn("<key>k</key><true/>")));
+  EXPECT_FALSE(std::get<bool>(valueIn("<key>k</key><false/>")));
+  for (const char* other : {"<array><string>a</string></array>", "<dict/>", "<data>AA==</data>",
+                            "<integer>x</integer>", "<date>2020-01-01T00:00:00Z</date>"}) {
+    EXPECT_TRUE(std::holds_alternative<OtherObject>(valueIn("<key>k</key>" + std::string(other))));
+  }
+}
+
+// A binary list of `objects`, whose indices and places are bytes, the first object on top.
+std::string binaryList(const std::vector<std::string>& objects) {
+  std::string bytes = "bplist00";
+  std::string places;
+  for (const std::string& object : objects) {
+    places += static_cast<char>(bytes.size());
+    bytes += object;
+  }
+  const auto table = static_cast<char>(bytes.size());
+  const auto count = static_cast<char>(objects.size());
+  using namespace std::string_literals;
+  return bytes + places + "\0\0\0\0\0\0\1\1"s + std::string(7, '\0') + count +
+         std::string(15, '\0') + table;
+}
+
+InfoDictionaryValue valueInBinary(const std::string& object) {
+  const std::optional<InfoDictionary> info =
+      parseInfoDictionary(binaryList({std::string("\xd1\x01\x02"), "\x51k", object}));
+  return info && info->contains("k") ? info->at("k") : OtherObject{};
+}
+
+TEST(PropertyList, HoldsValuesOfEachKindInBinary) {
+  using namespace std::string_literals;
+  EXPECT_EQ(std::get<std::string>(valueInBinary("\x53"s + "abc")), "abc");
+  EXPECT_EQ(std::get<std::string>(valueInBinary("\x63\x00\xfc\xd8\x3d\xdc\xee"s)), "ü📮");
+  EXPECT_EQ(std::get<std::string>(valueInBinary("\x5f\x10\x10"s + "0123456789abcdef")),
+            "0123456789abcdef");
+  EXPECT_EQ(std::get<std::int64_t>(valueInBinary("\x10\xff"s)), 255);
+  EXPECT_EQ(std::get<std::int64_t>(valueInBinary("\x13"s + std::string(8, '\xff'))), -1);
+  EXPECT_EQ(std::get<std::int64_t>(valueInBinary("\x14"s + std::string(15, '\0') + "\x07")), 7);
+  EXPECT_EQ(std::get<double>(valueInBinary("\x23\x3f\xf8\0\0\0\0\0\0"s)), 1.5);
+  EXPECT_EQ(std::get<double>(valueInBinary("\x22\x3f\xc0\0\0"s)), 1.5);
+  EXPECT_TRUE(std::get<bool>(valueInBinary("\x09")));
+  EXPECT_FALSE(std::get<bool>(valueInBinary("\x08")));
+  EXPECT_TRUE(std::holds_alternative<OtherObject>(valueInBinary("\xa1\x02")));  // holds itself
+}
+
+TEST(PropertyList, OfAnyBytesNeverEndsTheHost) {
+  using namespace std::string_literals;
+  std::string nested;
+  for (int i = 0; i < 200'000; ++i) nested += "<array>";
+  EXPECT_EQ(parseInfoDictionary("<plist><dict><key>k</key>" + nested), std::nullopt);
+  std::string closed = nested;
+  for (int i = 0; i < 200'000; ++i) closed += "</array>";
+  EXPECT_TRUE(parseInfoDictionary("<plist><dict><key>k</key>" + closed + "</dict></plist>"));
+  const std::optional<InfoDictionary> withNul =
+      parseInfoDictionary(binaryList({"\xd1\x01\x02", "\x53k\0k"s, "\x09"}));
+  ASSERT_TRUE(withNul);
+  EXPECT_TRUE(withNul->contains("k\0k"s));
+  const std::string good = binaryList({"\xd1\x01\x02", "\x51k", "\x09"});
+  ASSERT_TRUE(parseInfoDictionary(good));
+  for (std::size_t place = 0; place < good.size(); ++place) {
+    for (int byte = 0; byte < 256; ++byte) {
+      std::string bad = good;
+      bad[place] = static_cast<char>(byte);
+      parseInfoDictionary(bad);
+      parseInfoDictionary(bad.substr(0, place));
+    }
+  }
+}
+
 TEST_F(BundleFolders, TakeNumbersForNoTexts) {
   EXPECT_THAT(textsFor(plist("<key>CFBundleShortVersionString</key><string>1.0</string>"
                              "<key>CFBundleVersion</key><integer>1</integer>"

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -10,14 +9,9 @@
 
 #include "qv_commons/platform/bundle.h"
 #include "qv_commons/platform/desktop/desktop_context.h"
+#include "qv_commons/platform/desktop/property_list.h"
 
 namespace qv_commons::desktop {
-
-using InfoDictionary = std::map<std::string, InfoDictionaryValue, std::less<>>;
-
-// The top level of a property list, XML or binary; nothing where the bytes are none, or hold
-// anything but a dictionary.
-std::optional<InfoDictionary> parseInfoDictionary(std::string_view bytes);
 
 class DesktopBundle final : public Bundle {
  public:

@@ -1,0 +1,161 @@
+#include "qv_commons/platform/desktop/binary_property_list.h"
+
+#include <QString>
+#include <bit>
+#include <cstdint>
+
+namespace qv_commons::desktop {
+namespace {
+
+// A list is a magic word, objects, a table of their places, and a trailer. An object begins with a
+// byte whose halves are its kind and its size; containers hold the numbers of other objects.
+constexpr std::string_view kMagic = "bplist0";
+constexpr std::size_t kTrailerSize = 32;
+
+enum Kind : std::uint8_t {
+  simple = 0,
+  integer = 1,
+  real = 2,
+  ascii = 5,
+  utf16 = 6,
+  dictionary = 13
+};
+
+struct Object {
+  std::uint8_t kind;
+  std::uint64_t size;   // bytes, units or entries, by the kind; of numbers the exponent of two
+  std::uint64_t place;  // of what follows
+};
+
+class BinaryList {
+ public:
+  explicit BinaryList(std::string_view bytes) : bytes_(bytes) {}
+
+  std::optional<InfoDictionary> topDictionary();
+
+ private:
+  bool readTrailer();
+  std::optional<std::uint64_t> number(std::uint64_t place, std::uint64_t width) const;
+  std::optional<Object> object(std::uint64_t index) const;
+  std::optional<std::string> text(const Object& object) const;
+  std::optional<InfoDictionaryValue> value(std::uint64_t index) const;
+  std::optional<InfoDictionaryValue> numberValue(const Object& object) const;
+
+  std::string_view bytes_;
+  std::uint64_t placeWidth_ = 0;
+  std::uint64_t indexWidth_ = 0;
+  std::uint64_t objectCount_ = 0;
+  std::uint64_t top_ = 0;
+  std::uint64_t table_ = 0;
+};
+
+bool BinaryList::readTrailer() {
+  if (bytes_.size() < kMagic.size() + 1 + kTrailerSize || !bytes_.starts_with(kMagic)) return false;
+  const std::size_t trailer = bytes_.size() - kTrailerSize;
+  placeWidth_ = *number(trailer + 6, 1);
+  indexWidth_ = *number(trailer + 7, 1);
+  objectCount_ = *number(trailer + 8, 8);
+  top_ = *number(trailer + 16, 8);
+  table_ = *number(trailer + 24, 8);
+  return placeWidth_ >= 1 && placeWidth_ <= 8 && indexWidth_ >= 1 && indexWidth_ <= 8 &&
+         table_ < trailer && objectCount_ <= (trailer - table_) / placeWidth_;
+}
+
+// Big-endian. std::nullopt beyond the end.
+std::optional<std::uint64_t> BinaryList::number(std::uint64_t place, std::uint64_t width) const {
+  if (width > bytes_.size() || place > bytes_.size() - width) return std::nullopt;
+  std::uint64_t number = 0;
+  for (const char byte : bytes_.substr(place, width)) {
+    number = number << 8 | static_cast<unsigned char>(byte);
+  }
+  return number;
+}
+
+std::optional<Object> BinaryList::object(std::uint64_t index) const {
+  if (index >= objectCount_) return std::nullopt;
+  const std::optional<std::uint64_t> place = number(table_ + index * placeWidth_, placeWidth_);
+  if (!place) return std::nullopt;
+  const std::optional<std::uint64_t> marker = number(*place, 1);
+  if (!marker) return std::nullopt;
+  Object object{static_cast<std::uint8_t>(*marker >> 4), *marker & 15, *place + 1};
+  if (object.kind < 4 || object.size != 15) return object;
+  // A size of fifteen and more follows as an integer.
+  const std::optional<std::uint64_t> wide = number(object.place, 1);
+  if (!wide || *wide >> 4 != Kind::integer || (*wide & 15) > 3) return std::nullopt;
+  const std::uint64_t width = std::uint64_t{1} << (*wide & 15);
+  const std::optional<std::uint64_t> size = number(object.place + 1, width);
+  if (!size) return std::nullopt;
+  return Object{object.kind, *size, object.place + 1 + width};
+}
+
+std::optional<std::string> BinaryList::text(const Object& object) const {
+  const std::uint64_t room = bytes_.size() - object.place;  // no object begins beyond the end
+  if (object.kind == Kind::ascii && object.size <= room) {
+    return std::string(bytes_.substr(object.place, object.size));
+  }
+  if (object.kind != Kind::utf16 || object.size > room / 2) return std::nullopt;
+  QString text;
+  for (std::uint64_t i = 0; i < object.size; ++i) {
+    text += QChar(static_cast<char16_t>(*number(object.place + 2 * i, 2)));
+  }
+  return text.toStdString();
+}
+
+std::optional<InfoDictionaryValue> BinaryList::numberValue(const Object& object) const {
+  // Of a number of sixteen bytes, the lower eight.
+  if (object.size > (object.kind == Kind::integer ? 4 : 3)) return std::nullopt;
+  const std::uint64_t width = std::uint64_t{1} << object.size;
+  const std::uint64_t skipped = width > 8 ? width - 8 : 0;
+  const std::optional<std::uint64_t> bits = number(object.place + skipped, width - skipped);
+  if (!bits) return std::nullopt;
+  if (object.kind == Kind::integer) return static_cast<std::int64_t>(*bits);
+  if (width == 8) return std::bit_cast<double>(*bits);
+  if (width == 4)
+    return static_cast<double>(std::bit_cast<float>(static_cast<std::uint32_t>(*bits)));
+  return std::nullopt;
+}
+
+std::optional<InfoDictionaryValue> BinaryList::value(std::uint64_t index) const {
+  const std::optional<Object> object = this->object(index);
+  if (!object) return std::nullopt;
+  switch (object->kind) {
+    case Kind::simple:
+      if (object->size == 8 || object->size == 9) return object->size == 9;
+      return OtherObject{};
+    case Kind::integer:
+    case Kind::real:
+      return numberValue(*object);
+    case Kind::ascii:
+    case Kind::utf16:
+      return text(*object);
+    default:
+      return OtherObject{};
+  }
+}
+
+std::optional<InfoDictionary> BinaryList::topDictionary() {
+  if (!readTrailer()) return std::nullopt;
+  const std::optional<Object> top = object(top_);
+  if (!top || top->kind != Kind::dictionary) return std::nullopt;
+  if (top->size > bytes_.size() / (2 * indexWidth_)) return std::nullopt;
+  InfoDictionary info;
+  for (std::uint64_t i = 0; i < top->size; ++i) {
+    const auto keyIndex = number(top->place + i * indexWidth_, indexWidth_);
+    const auto valueIndex = number(top->place + (top->size + i) * indexWidth_, indexWidth_);
+    if (!keyIndex || !valueIndex) return std::nullopt;
+    const std::optional<Object> keyObject = object(*keyIndex);
+    const std::optional<std::string> key = keyObject ? text(*keyObject) : std::nullopt;
+    std::optional<InfoDictionaryValue> found = value(*valueIndex);
+    if (!key || !found) return std::nullopt;
+    info.insert_or_assign(*key, *std::move(found));
+  }
+  return info;
+}
+
+}  // namespace
+
+std::optional<InfoDictionary> parseBinaryInfoDictionary(std::string_view bytes) {
+  return BinaryList(bytes).topDictionary();
+}
+
+}  // namespace qv_commons::desktop

@@ -1,0 +1,11 @@
+// Property lists in their binary form.
+#pragma once
+
+#include "qv_commons/platform/desktop/property_list.h"
+
+namespace qv_commons::desktop {
+
+// The same as parseInfoDictionary, of a binary list.
+std::optional<InfoDictionary> parseBinaryInfoDictionary(std::string_view bytes);
+
+}  // namespace qv_commons::desktop
