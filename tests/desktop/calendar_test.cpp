@@ -1,7 +1,10 @@
 #include <QDateTime>
+#include <QTemporaryDir>
 #include <QTimeZone>
 #include <cmath>
 #include <cstdlib>
+#include <filesystem>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <limits>
 #include <optional>
@@ -191,12 +194,47 @@ TEST(CalendarZone, IsWhatTzNames) {
   EXPECT_EQ(timeZoneIdentifier(":/usr/share/zoneinfo/Asia/Tokyo"), "Asia/Tokyo");
 }
 
-TEST(CalendarZone, IsUtcForWhatIsNoZone) {
-  for (const char* nonsense : {"", ":", "Nowhere/Land", ":/etc/passwd", "/no/such/file", "\xff"}) {
-    EXPECT_EQ(timeZoneIdentifier(nonsense), "UTC") << nonsense;
+TEST(CalendarZone, IsUtcWhereItIsEmpty) {
+  EXPECT_EQ(timeZoneIdentifier(""), "UTC");
+  EXPECT_EQ(timeZoneIdentifier(":"), "UTC");
+}
+
+TEST(CalendarZone, IsToldWhereItIsNotKnown) {
+  for (const char* nonsense : {"Nowhere/Land", ":/etc/passwd", "/no/such/file", "\xff", "/etc",
+                               "CET-1CEST,M3.5.0,M10.5.0/3"}) {
+    EXPECT_EQ(timeZoneIdentifier(nonsense), std::nullopt) << nonsense;
   }
-  EXPECT_EQ(IcuCalendar({"en-US", "Nowhere/Land"}).dateByAddingYears(instantAt(0), 1),
-            instantAt(31536000));
+  std::vector<std::string> told;
+  const IcuCalendar calendar({"en-US", "CET-1CEST,M3.5.0,M10.5.0/3"},
+                             [&](std::string error) { told.push_back(std::move(error)); });
+  EXPECT_EQ(calendar.dateByAddingYears(instantAt(0), 1), instantAt(31536000));
+  EXPECT_EQ(calendar.dateByAddingYears(instantAt(0), 1), instantAt(31536000));
+  EXPECT_THAT(told, testing::ElementsAre("The time zone CET-1CEST,M3.5.0,M10.5.0/3 is not known by "
+                                         "name; dates are reckoned in UTC."));
+}
+
+TEST(CalendarZone, OfACopiedFileIsTheZoneWithTheSameBytes) {
+  const QTemporaryDir folder;
+  const std::string copy = folder.filePath("localtime").toStdString();
+  std::filesystem::copy_file("/usr/share/zoneinfo/America/St_Johns", copy);
+  const std::optional<std::string> name = timeZoneIdentifier(":" + copy);
+  ASSERT_TRUE(name);
+  EXPECT_THAT(*name, testing::AnyOf("America/St_Johns", "Canada/Newfoundland"));
+}
+
+TEST(CalendarZone, OfTheSystemIsFollowedWhenItChanges) {
+  const QByteArray before = qgetenv("TZ");
+  const IcuCalendar calendar({"en-US", ""});
+  const auto offset = [&] {
+    UErrorCode status = U_ZERO_ERROR;
+    const auto made = calendar.makeCalendar();
+    return made->get(UCAL_ZONE_OFFSET, status) / 3'600'000;
+  };
+  qputenv("TZ", "Asia/Tokyo");
+  EXPECT_EQ(offset(), 9);
+  qputenv("TZ", "Asia/Dubai");
+  EXPECT_EQ(offset(), 4);
+  before.isNull() ? qunsetenv("TZ") : qputenv("TZ", before);
 }
 
 TEST(CalendarZone, OfTheSystemFollowsTheLink) {

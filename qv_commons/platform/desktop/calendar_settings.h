@@ -12,8 +12,8 @@ struct CalendarSettings {
   // LC_TIME has no say.
   std::string locale;
 
-  // For example "Europe/Paris"; empty: the system's, by TZ or /etc/localtime. What is no zone
-  // counts as UTC.
+  // For example "Europe/Paris"; empty: the system's, by TZ or /etc/localtime, also when it changes.
+  // What is no zone counts as UTC, and the host is told.
   std::string timeZone;
 };
 

@@ -1,9 +1,8 @@
 #include "qv_commons/platform/desktop/icu_calendar.h"
 
 #include <cmath>
-#include <cstdlib>
+#include <utility>
 
-#include "qv_commons/platform/desktop/time_zone.h"
 #include "qv_commons/platform/fatal_error.h"
 
 namespace qv_commons::desktop {
@@ -25,18 +24,10 @@ icu::Locale localeOf(const std::string& tag) {
   return U_SUCCESS(status) ? locale : icu::Locale::getRoot();
 }
 
-std::string zoneOf(const std::string& name) {
-  if (!name.empty()) return timeZoneIdentifier(name);
-  const char* tz = std::getenv("TZ");
-  return timeZoneIdentifier(tz == nullptr ? std::nullopt : std::optional<std::string>(tz));
-}
-
 }  // namespace
 
-IcuCalendar::IcuCalendar(const CalendarSettings& settings)
-    : locale_(localeOf(settings.locale)),
-      timeZone_(
-          icu::TimeZone::createTimeZone(icu::UnicodeString::fromUTF8(zoneOf(settings.timeZone)))) {}
+IcuCalendar::IcuCalendar(const CalendarSettings& settings, CurrentTimeZone::ErrorHandler report)
+    : locale_(localeOf(settings.locale)), timeZone_(settings.timeZone, std::move(report)) {}
 
 std::optional<std::int64_t> IcuCalendar::yearsBetween(Instant from, Instant to) const {
   if (!isWithinReach(from) || !isWithinReach(to)) return std::nullopt;
@@ -62,7 +53,7 @@ std::optional<Instant> IcuCalendar::dateByAddingYears(Instant date, int years) c
 std::unique_ptr<icu::Calendar> IcuCalendar::makeCalendar() const {
   UErrorCode status = U_ZERO_ERROR;
   std::unique_ptr<icu::Calendar> calendar(
-      icu::Calendar::createInstance(*timeZone_, locale_, status));
+      icu::Calendar::createInstance(*timeZone_.get(), locale_, status));
   if (U_FAILURE(status)) fatalError("IcuCalendar: ICU has no calendar; is its data installed?");
   return calendar;
 }

@@ -8,6 +8,7 @@
 
 #include "qv_commons/platform/calendar.h"
 #include "qv_commons/platform/desktop/calendar_settings.h"
+#include "qv_commons/platform/desktop/time_zone.h"
 
 namespace qv_commons::desktop {
 
@@ -21,8 +22,10 @@ inline Instant toInstant(UDate milliseconds) {
 
 class IcuCalendar final : public Calendar {
  public:
-  // The locale and the zone are looked up here, once.
-  explicit IcuCalendar(const CalendarSettings& settings = {});
+  // The locale is looked up here, once; the zone at each question. `report` is told of a zone that
+  // is not known.
+  explicit IcuCalendar(const CalendarSettings& settings = {},
+                       CurrentTimeZone::ErrorHandler report = {});
 
   std::optional<std::int64_t> yearsBetween(Instant from, Instant to) const override;
   std::optional<Instant> dateByAddingYears(Instant date, int years) const override;
@@ -34,7 +37,7 @@ class IcuCalendar final : public Calendar {
 
  private:
   icu::Locale locale_;
-  std::unique_ptr<const icu::TimeZone> timeZone_;
+  CurrentTimeZone timeZone_;
 };
 
 }  // namespace qv_commons::desktop
