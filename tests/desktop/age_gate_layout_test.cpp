@@ -318,6 +318,11 @@ TEST_F(AgeGateBadLayoutDeathTest, StopsAtAClassThatNobodyKnows) {
   EXPECT_DEATH(startAgeGate(), "QV_AgeGateViewController.ui: unknown class CalendarOfMine");
 }
 
+TEST_F(AgeGateBadLayoutDeathTest, StopsAtALayoutClassThatNobodyKnows) {
+  replace("class=\"QVBoxLayout\"", "class=\"LayoutOfMine\"");
+  EXPECT_DEATH(startAgeGate(), "QV_AgeGateViewController.ui: unknown layout LayoutOfMine");
+}
+
 TEST_F(AgeGateBadLayoutDeathTest, StopsWithoutAnOutlet) {
   replace("name=\"subtitle\"", "name=\"subheading\"");
   EXPECT_DEATH(startAgeGate(),

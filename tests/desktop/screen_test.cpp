@@ -5,6 +5,8 @@
 #include <QScreen>
 #include <gtest/gtest.h>
 
+#include "qv_commons/platform/desktop/desktop_system.h"
+
 #include "tests/desktop/desktop_driver.h"
 
 namespace qv_commons::desktop {
@@ -12,6 +14,26 @@ namespace {
 
 UserInterfaceStyle styleWith(UserInterfaceStyle setting) {
   return DesktopPlatform({.userInterfaceStyle = setting}).platform().device.userInterfaceStyle();
+}
+
+// 533 points at a scale of 1.5 are 800 pixels; the numbers that divide evenly stay.
+TEST(ScreenSize, KeepsTheFractionOfAPoint) {
+  EXPECT_DOUBLE_EQ(pointsOf(533, 1.5), 533.33333333333337);
+  EXPECT_DOUBLE_EQ(pointsOf(1093, 1.25), 1092.8);
+  EXPECT_DOUBLE_EQ(pointsOf(1097, 1.75), 1097.1428571428571);
+  EXPECT_EQ(pointsOf(801, 1), 801);
+  EXPECT_EQ(pointsOf(800, 1), 800);
+  EXPECT_EQ(pointsOf(401, 2), 401);
+  EXPECT_EQ(pointsOf(0, 1.5), 0);
+}
+
+// Run again at a scale of 1.5, see CMakeLists.txt; the offscreen screen has 800 pixels each way.
+TEST(ScreenSize, IsThePixelsByTheScale) {
+  const double scale = QGuiApplication::primaryScreen()->devicePixelRatio();
+  if (QGuiApplication::platformName() != "offscreen") GTEST_SKIP();
+  const Size size = DesktopPlatform({}).platform().device.screenBounds();
+  EXPECT_DOUBLE_EQ(size.width * scale, 800);
+  EXPECT_DOUBLE_EQ(size.height * scale, 800);
 }
 
 class ScreenLook : public testing::Test {

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "qv_commons/platform/desktop/data_folder.h"
+#include "qv_commons/platform/desktop/desktop_look.h"
 #include "qv_commons/platform/desktop/desktop_platform.h"
 #include "qv_commons/platform/presentation.h"
 
@@ -20,6 +21,8 @@ struct DesktopContext {
   std::map<const QWidget*, HostController*> hosts;
 
   Presentations presentations;
+
+  DesktopLook look;
 
   // Completions wait in this object's event queue, and go with it.
   QObject transitions;

@@ -6,8 +6,6 @@
 #include <QWindow>
 #include <utility>
 
-#include "qv_commons/platform/desktop/interface_style.h"
-
 namespace qv_commons::desktop {
 namespace {
 
@@ -44,7 +42,7 @@ void DesktopController::redress() {
   const UserInterfaceStyle wish = overrideStyle_ != UserInterfaceStyle::unspecified
                                       ? overrideStyle_
                                       : context_->settings.userInterfaceStyle;
-  if (window_ != nullptr) dress(currentUserInterfaceStyle(wish));
+  if (window_ != nullptr) dress(context_->look.style(wish));
 }
 
 void DesktopController::place(QWidget& window, const QWidget& presenterWindow) {

@@ -24,9 +24,10 @@ struct DesktopPlatform::Parts {
   SharedContext context;
   DesktopBundles bundles{*context};
   DesktopConsole console;
-  DesktopDevice device{context->settings.systemVersion, context->settings.userInterfaceStyle};
+  DesktopDevice device{context->look, context->settings.systemVersion,
+                       context->settings.userInterfaceStyle};
   DesktopClock clock;
-  IcuCalendar calendar{context->settings.calendar};
+  IcuCalendar calendar{context->settings.calendar, context->settings.onError};
   SqliteUserDefaults userDefaults{context->dataDirectory(),
                                   bundles.mainBundle().bundleIdentifier().value_or(""),
                                   context->settings.onError};

@@ -3,17 +3,25 @@
 #include <QDesktopServices>
 #include <QGuiApplication>
 #include <QLocale>
+#include <QProcess>
 #include <QScreen>
 #include <QSysInfo>
 #include <QUrl>
 #include <chrono>
+#include <cmath>
 #include <cstdio>
 
-#include "qv_commons/platform/desktop/interface_style.h"
 #include "qv_commons/platform/desktop/qt_text.h"
 #include "qv_commons/support/url.h"
 
 namespace qv_commons::desktop {
+
+double pointsOf(int rounded, double scale) {
+  constexpr double kRounding = 0.5;
+  const double pixels = 2 * std::round(rounded * scale / 2);
+  const double points = pixels / scale;
+  return std::abs(points - rounded) <= kRounding ? points : rounded;
+}
 
 void DesktopConsole::print(std::string_view line) {
   std::fwrite(line.data(), 1, line.size(), stdout);
@@ -44,12 +52,13 @@ std::vector<std::string> DesktopDevice::preferredLanguages() const {
 Size DesktopDevice::screenBounds() const {
   const QScreen* monitor = QGuiApplication::primaryScreen();
   if (monitor == nullptr) return {};
-  const QSizeF size = monitor->geometry().size();
-  return {size.width(), size.height()};
+  const QSize size = monitor->geometry().size();
+  const double scale = monitor->devicePixelRatio();
+  return {pointsOf(size.width(), scale), pointsOf(size.height(), scale)};
 }
 
 UserInterfaceStyle DesktopDevice::userInterfaceStyle() const {
-  return currentUserInterfaceStyle(style_);
+  return look_.style(style_);
 }
 
 Instant DesktopClock::now() const {
@@ -57,7 +66,15 @@ Instant DesktopClock::now() const {
 }
 
 void DesktopApplication::openURL(const URL& url) {
-  QDesktopServices::openUrl(QUrl(fromUtf8(url.text())));
+  const QString text = fromUtf8(url.text());
+  const QUrl asQtWritesIt(text);
+  if (QString::fromLatin1(asQtWritesIt.toEncoded()) == text) {
+    QDesktopServices::openUrl(asQtWritesIt);
+  } else {
+    // "%41" would become "A" and "%3f" "%3F": such a link goes to the desktop's opener as it
+    // stands.
+    QProcess::startDetached("xdg-open", {text});
+  }
 }
 
 }  // namespace qv_commons::desktop

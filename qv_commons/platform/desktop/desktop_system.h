@@ -5,9 +5,15 @@
 #include "qv_commons/platform/application.h"
 #include "qv_commons/platform/clock.h"
 #include "qv_commons/platform/console.h"
+#include "qv_commons/platform/desktop/desktop_look.h"
 #include "qv_commons/platform/device.h"
 
 namespace qv_commons::desktop {
+
+// A monitor's extent in points, which the toolkit gives rounded to whole ones: `rounded` is 533 for
+// 800 pixels at a scale of 1.5, and the result 533.33. Of the numbers of pixels that round so, an
+// even one is taken, as monitors have.
+double pointsOf(int rounded, double scale);
 
 // Prints to the standard output stream.
 class DesktopConsole final : public Console {
@@ -18,8 +24,9 @@ class DesktopConsole final : public Console {
 class DesktopDevice final : public Device {
  public:
   // The version that the library takes the system for, and the look that was set.
-  DesktopDevice(const OperatingSystemVersion& version, UserInterfaceStyle style)
-      : version_(version), style_(style) {}
+  DesktopDevice(const DesktopLook& look, const OperatingSystemVersion& version,
+                UserInterfaceStyle style)
+      : look_(look), version_(version), style_(style) {}
 
   // The distribution and the kind of machine, for example "Debian PC".
   std::string localizedModel() const override;
@@ -39,6 +46,7 @@ class DesktopDevice final : public Device {
   UserInterfaceStyle userInterfaceStyle() const override;
 
  private:
+  const DesktopLook& look_;
   OperatingSystemVersion version_;
   UserInterfaceStyle style_;
 };
@@ -50,6 +58,7 @@ class DesktopClock final : public Clock {
 
 class DesktopApplication final : public Application {
  public:
+  // The link reaches the desktop to the byte.
   void openURL(const URL& url) override;
 };
 

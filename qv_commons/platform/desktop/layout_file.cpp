@@ -41,6 +41,12 @@ class ScreenLoader final : public QUiLoader {
     return widget;
   }
 
+  // Qt would go on without the layout, and then use it.
+  QLayout* createLayout(const QString& className, QObject* parent, const QString& name) override {
+    if (!availableLayouts().contains(className)) failToLoad(path_, "unknown layout " + className);
+    return QUiLoader::createLayout(className, parent, name);
+  }
+
  private:
   QWidget* make(const QString& className, QWidget* parent) const {
     if (className == "WheelDatePicker") return new WheelDatePicker(calendar_, parent);
