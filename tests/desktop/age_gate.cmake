@@ -55,3 +55,12 @@ add_test(NAME desktop.age_gate_kill
           $<TARGET_FILE:age_gate_start> 200)
 set_tests_properties(desktop.age_gate_kill PROPERTIES LABELS desktop TIMEOUT 600
   ENVIRONMENT QT_QPA_PLATFORM=offscreen)
+
+# The same under failing system calls, locks, a full disk and more kills. Tracing is not allowed
+# everywhere.
+if(NOT QV_COMMONS_SANITIZE)
+  qv_add_desktop_test(desktop.faults NEEDS strace
+    COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/fault_matrix.py
+            $<TARGET_FILE:age_gate_start> 30
+    ENVIRONMENT QT_QPA_PLATFORM=offscreen)
+endif()

@@ -1,5 +1,6 @@
 #include "qv_commons/platform/desktop/sqlite_user_defaults.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <thread>
 #include <utility>
@@ -68,12 +69,17 @@ void SqliteUserDefaults::commitWith(milliseconds patience) {
   retry_.stop();
 }
 
-// Both or a failure: what a user is told must be there whichever file the next start reads.
+// Both or a failure: what a user is told must be there whichever file the next start reads. Where
+// the file fails, the copy may still do.
 Failure SqliteUserDefaults::write(milliseconds patience) {
   if (Failure failure = makePrivateFolder(folder_)) return failure;
   if (known_.empty()) refresh();
-  if (Failure failure = writeTo(file_, patience)) return failure;
-  return writeTo(copy_, patience);
+  const auto end = std::chrono::steady_clock::now() + patience;
+  const Failure failure = writeTo(file_, patience);
+  const auto left =
+      std::chrono::duration_cast<milliseconds>(end - std::chrono::steady_clock::now());
+  const Failure ofCopy = writeTo(copy_, std::max(left, milliseconds(0)));
+  return failure ? failure : ofCopy;
 }
 
 Failure SqliteUserDefaults::writeTo(SqliteFile& file, milliseconds patience) {
