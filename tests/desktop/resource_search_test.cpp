@@ -44,6 +44,9 @@ TEST_F(ResourceSearchTest, StaysWithinTheFolder) {
   const std::string inner = make("bundle/texts/en.json");
   EXPECT_EQ(findResource(root_ / "bundle", "../x", "json"), std::nullopt);
   EXPECT_EQ(findResource(root_ / "bundle", "texts/../../x", "json"), std::nullopt);
+  EXPECT_EQ(findResource(root_ / "bundle", "texts", "/../../x"), std::nullopt);
+  EXPECT_EQ(findResource(root_ / "bundle", ".", ""), std::nullopt);
+  EXPECT_EQ(findResource(root_ / "bundle", "config", std::string("json\0", 5)), std::nullopt);
   EXPECT_EQ(findResource(root_ / "bundle", (root_ / "x").string(), "json"), std::nullopt);
   EXPECT_EQ(findResource(root_ / "bundle", "texts/en", "json"), inner);
   EXPECT_EQ(findResource(root_ / "bundle", std::string("texts/en\0", 9), "json"), std::nullopt);

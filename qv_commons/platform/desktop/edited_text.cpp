@@ -1,6 +1,5 @@
 #include "qv_commons/platform/desktop/edited_text.h"
 
-#include <QStringDecoder>
 #include <algorithm>
 #include <optional>
 #include <utility>
@@ -49,12 +48,15 @@ QString shownLine(std::string_view bytes) {
 
 // How many of the bytes give the first `units` units.
 std::size_t bytesOfUnits(std::string_view bytes, std::size_t units) {
-  QStringDecoder decoder(QStringDecoder::Utf8);
-  std::size_t seen = 0;
+  const QString whole = fromUtf8(bytes);
+  if (units >= static_cast<std::size_t>(whole.size())) return bytes.size();
+  const auto count = static_cast<qsizetype>(units) +
+                     (units > 0 && whole[static_cast<qsizetype>(units)].isLowSurrogate() ? 1 : 0);
+  if (toUtf8(whole) == bytes) return toUtf8(whole.left(count)).size();
+  // Not UTF-8: where both parts give what they give as a whole.
   for (std::size_t i = 0; i < bytes.size(); ++i) {
-    if (seen >= units) return i;
-    const QString character = decoder(QByteArrayView(bytes.data() + i, 1));
-    seen += static_cast<std::size_t>(character.size());
+    const QString front = fromUtf8(bytes.substr(0, i));
+    if (front.size() >= count && front + fromUtf8(bytes.substr(i)) == whole) return i;
   }
   return bytes.size();
 }

@@ -18,14 +18,14 @@ constexpr int kFoldersAbove = 3;
 
 std::optional<std::string> findResource(const fs::path& directory, std::string_view name,
                                         std::string_view extension) {
-  const fs::path wanted(name);
+  std::string file(name);
+  file.append(".").append(extension);
+  const fs::path wanted(file);
   const bool leadsOut = wanted.is_absolute() ||
                         std::find(wanted.begin(), wanted.end(), "..") != wanted.end() ||
-                        name.find('\0') != std::string_view::npos;
+                        file.find('\0') != std::string::npos;
   if (directory.empty() || name.empty() || leadsOut) return std::nullopt;
-  fs::path path = directory / wanted;
-  path += ".";
-  path += extension;
+  const fs::path path = directory / wanted;
   std::error_code error;
   if (!fs::exists(path, error)) return std::nullopt;
   return path.string();
