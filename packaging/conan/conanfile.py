@@ -25,7 +25,7 @@ class QvCommons(ConanFile):
             self.requires("qt/[>=6.4 <7]", options={"qttools": True, "with_dbus": True})
             self.requires("icu/[>=72]")
             self.requires("sqlite3/[>=3.40]")
-            # GMime and libplist are taken from the system.
+            # GMime is taken from the system.
 
     def layout(self):
         cmake_layout(self)

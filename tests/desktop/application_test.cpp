@@ -1,7 +1,8 @@
 // Links on their way to the desktop.
+#include "qv_commons/platform/application.h"
+
 #include <gmock/gmock.h>
 
-#include "qv_commons/platform/application.h"
 #include "qv_commons/support/url.h"
 
 #include "tests/desktop/desktop_driver.h"
