@@ -18,6 +18,7 @@
 
 #include "qv_commons/platform/bundle.h"
 #include "qv_commons/platform/device.h"
+#include "qv_commons/platform/instant.h"
 #include "qv_commons/platform/platform.h"
 #include "qv_commons/platform/view_controllers.h"
 

@@ -9,6 +9,7 @@
 #include "qv_commons/age_gate/age_gate_view_controller.h"
 #include "qv_commons/app_info/bundle_file_helper.h"
 #include "qv_commons/platform/user_defaults.h"
+#include "qv_commons/platform/views.h"
 
 #include "tests/conformance/adapter.h"
 
