@@ -17,7 +17,7 @@ import time
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 BUILD = ROOT / "build" / "footprint"
-LARGEST = 64 * 1024
+LARGEST = 52 * 1024
 INCLUDES = {
     "nothing": "",
     "<string> and <functional>": "#include <string>\n#include <functional>\n",
@@ -43,13 +43,14 @@ def unused_sources(program, library):
     """Sources of the library of which the program holds no function: what was not weighed."""
     pattern = re.compile(r".*?:(?:(\S+\.o):)?[0-9a-f]+ ([A-Za-z]) (.*)")
 
-    def functions(file):
+    def functions(file, kinds):
         found = (pattern.fullmatch(line) for line in run("nm", "-A", "-C", "--defined-only", file).splitlines())
-        return [(match[1], match[3]) for match in found if match and match[2] == "T"]
+        return [(match[1], match[3]) for match in found if match and match[2] in kinds]
 
-    used = {name for _, name in functions(program)}
-    members = {member for member, _ in functions(library)}
-    return sorted(members - {member for member, name in functions(library) if name in used})
+    used = {name for _, name in functions(program, "Tt")}  # what a library hides is local there
+    offered = functions(library, "T")
+    members = {member for member, _ in offered}
+    return sorted(members - {member for member, name in offered if name in used})
 
 
 def code_size(compiler, flags=""):
@@ -112,8 +113,8 @@ def check(compiler):
     lines = {name: cost["lines"] for name, cost in include_cost(compiler, rounds=0).items()}
     standard, ours = lines["<string> and <functional>"], lines["qv_commons/qv_commons.h"]
     print("%d bytes of code and constants, at most %d" % (size, LARGEST))
-    print("%d lines to include, less than twice %d" % (ours, standard))
-    return 0 if size <= LARGEST and ours < 2 * standard else 1
+    print("%d lines to include, at most 1.5 times %d" % (ours, standard))
+    return 0 if size <= LARGEST and ours <= 1.5 * standard else 1
 
 
 def main():

@@ -288,9 +288,9 @@ TEST_F(ComposerSending, LeavesTheSenderToTheMailProgramWhereNoneCanBeMade) {
 // A program that says 20 MB: the host takes none of it but the end.
 TEST_F(ComposerSending, KeepsTheEndOfAFloodOfComplaints) {
   useMailProgram("head -c 20000000 /dev/zero >&2; echo end >&2; exit 3");
+  open();
   rusage before = {};
   ::getrusage(RUSAGE_SELF, &before);
-  open();
   click(*composer_, "send");
   ASSERT_TRUE(waitForNotice("Not sent."));
   EXPECT_THAT(noticeText(), HasSubstr("end)"));

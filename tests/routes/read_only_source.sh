@@ -6,7 +6,8 @@ tar -c -C "$SOURCE" --exclude=./build --exclude=./out --exclude=./.git . | tar -
 chmod -R a-w source
 as_user=()
 if [ "$(id -u)" = 0 ]; then
-  as_user=(setpriv --reuid=65534 --regid=65534 --clear-groups env HOME="$folder/build")
+  as_user=(setpriv --reuid=65534 --regid=65534 --clear-groups env -u CMAKE_CXX_COMPILER_LAUNCHER
+    -u CMAKE_OBJCXX_COMPILER_LAUNCHER HOME="$folder/build")
   chmod a+rx "$folder"
   chown 65534 build
 fi

@@ -29,7 +29,7 @@ std::string appDataFolder() {
   if (folder.empty()) folder = homeFolder() + "/.local/share";
   for (const QString& name :
        {QCoreApplication::organizationName(), QCoreApplication::applicationName()}) {
-    if (!name.isEmpty()) folder += "/" + toUtf8(name);
+    if (!name.isEmpty()) folder.append("/").append(toUtf8(name));
   }
   return folder;
 }

@@ -88,7 +88,8 @@ void setText(GMimeMessage& mail, const char* name, const std::string& value) {
   GMimeHeaderList* headers = g_mime_object_get_header_list(GMIME_OBJECT(&mail));
   g_mime_header_list_append(headers, name, "", nullptr);
   GMimeHeader* header = g_mime_header_list_get_header(headers, name);
-  g_mime_header_set_raw_value(header, (" " + headerText(value) + "\n").c_str());
+  const std::string raw = std::string(" ").append(headerText(value)).append("\n");
+  g_mime_header_set_raw_value(header, raw.c_str());
 }
 
 void setRecipients(GMimeMessage& mail, const std::string& recipients) {
