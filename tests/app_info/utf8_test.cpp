@@ -67,7 +67,7 @@ TEST(Utf8, RefusesEveryOtherLeadByte) {
 
 TEST(Utf8, FindsAContinuationAtTheStartOfAMachineWord) {
   for (const char byte : {'\x80', '\xBF', '\xFF'}) {
-    for (const std::size_t before : {0, 8, 16}) {
+    for (std::size_t before = 0; before <= 16; before += 8) {
       EXPECT_FALSE(isUtf8(std::string(before, 'x') + byte + "xxxxxxx")) << before;
     }
   }

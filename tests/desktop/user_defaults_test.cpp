@@ -336,7 +336,7 @@ TEST_F(UserDefaultsTest, SetAsideWhatIsNotOurs) {
                 ElementsAre(about("it was damaged and has been set aside as " + file().string() +
                                   ".damaged-" + std::to_string(++aside))));
   };
-  for (const std::size_t size : {1, 4097, 5000, 8191}) {
+  for (const std::size_t size : {1u, 4097u, 5000u, 8191u}) {
     write(whole.substr(0, size));
     expectSetAside();
   }

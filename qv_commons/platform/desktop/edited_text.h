@@ -60,7 +60,7 @@ class EditedText {
   QString shownOriginal(std::size_t begin, std::size_t end) const;
   QString shown(std::size_t begin, std::size_t end) const;
   std::size_t splitAt(std::size_t position);
-  void insert(std::size_t span, const QString& text);
+  void insert(std::size_t at, const QString& text);
 
   std::string original_;
   std::vector<Line> lines_;  // and one more, for the end

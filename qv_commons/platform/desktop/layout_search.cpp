@@ -35,7 +35,7 @@ std::string findLayout(std::string_view name, const Bundle* bundle,
   }
   linkLayouts();
   const std::string file = std::string(name) + ".ui";
-  const std::string own = ":/qv_commons/" + file;
+  std::string own = ":/qv_commons/" + file;
   if (!resourceDirectory.empty() || !QFile::exists(fromUtf8(own))) {
     failToFind(file, resourceDirectory);
   }
