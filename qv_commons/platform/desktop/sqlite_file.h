@@ -49,7 +49,7 @@ class SqliteFile {
   Outcome tryRead(Values& values);
   Outcome readRows(Values& values);
   Outcome tryWrite(const Values& changes, const Values& known, std::chrono::milliseconds patience);
-  Outcome insert(const char* statement, const Values& values);
+  Outcome insert(const char* text, const Values& values);
   Outcome run(const char* statement);
   Outcome outcomeOf(int code);
   Outcome fail(const std::string& why);

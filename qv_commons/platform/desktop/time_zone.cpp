@@ -51,7 +51,7 @@ std::string nameByContent(const std::string& file) {
        entry != fs::recursive_directory_iterator(); entry.increment(error)) {
     if (error) return "";
     if (!entry->is_regular_file(error) || entry->file_size(error) != size) continue;
-    const std::string name = nameByPath(entry->path());
+    std::string name = nameByPath(entry->path());
     if (isKnown(name) && bytesOf(entry->path()) == bytes) return name;
   }
   return "";
