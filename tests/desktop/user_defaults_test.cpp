@@ -17,6 +17,7 @@
 #include "qv_commons/platform/desktop/sqlite_user_defaults.h"
 
 #include "tests/desktop/watched_sqlite.h"
+#include "tests/support_code/sanitized.h"
 
 namespace qv_commons::desktop {
 namespace {
@@ -297,6 +298,7 @@ TEST_F(UserDefaultsTest, ForgetNothingThatWasOnceReadOrWritten) {
 }
 
 TEST_F(UserDefaultsTest, ReadWithoutADescriptorWhatWasReadBefore) {
+  if (test::kIsSanitized) GTEST_SKIP() << "a sanitizer needs descriptors of its own";
   refuse();
   const auto defaults = start();
   EXPECT_TRUE(defaults->boolForKey(kBlocked));
