@@ -3,10 +3,10 @@
 source "$(dirname "$0")/lib.sh"
 quietly cpack -G DEB --config "$SHARED/shared/CPackConfig.cmake" -B "$folder/packages"
 runtime=$(echo packages/libqv-commons1_1.0.0_*.deb) dev=$(echo packages/libqv-commons-dev_1.0.0_*.deb)
-dpkg-deb --field "$runtime" Depends | grep -q libqt6widgets6 || fail "the runtime package needs no Qt"
+grep -q libqt6widgets6 <<<"$(dpkg-deb --field "$runtime" Depends)" || fail "the runtime package needs no Qt"
 [ "$(dpkg-deb --field "$dev" Depends)" = "libqv-commons1 (= 1.0.0)" ] || fail "the dev package's needs"
 ! dpkg-deb --contents "$runtime" | grep -E "\.(h|cmake|pc)$" || fail "the runtime package has more than that"
-dpkg-deb --contents "$runtime" | grep -q share/doc/qv_commons/LICENSE || fail "no licence"
+grep -q share/doc/qv_commons/LICENSE <<<"$(dpkg-deb --contents "$runtime")" || fail "no licence"
 for package in "$runtime" "$dev"; do dpkg-deb --extract "$package" root; done
 ! find root -name '*.h' | grep -E "wheel|sqlite|mail_sender" || fail "the adapter's insides are installed"
 

@@ -28,7 +28,7 @@ expect_failure() {
   local expected=$1
   shift
   if "$@" >"$folder/log" 2>&1; then fail "passed, though it should not: $*"; fi
-  tr -s '\n ' ' ' <"$folder/log" | grep -qF "$expected" || { cat "$folder/log"; fail "not said: $expected"; }
+  grep -qF "$expected" <<<"$(tr -s '\n ' ' ' <"$folder/log")" || { cat "$folder/log"; fail "not said: $expected"; }
 }
 
 # The program with this library's age gate, and the same for the memory adapter.

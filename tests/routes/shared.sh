@@ -9,7 +9,7 @@ quietly cmake --install "$build" --prefix "$SHARED/shared-prefix"
 lib=$SHARED/shared-prefix/lib
 
 for name in qv_commons qv_commons_memory qv_commons_desktop; do
-  objdump -p "$lib/lib$name.so" | grep -q "SONAME *lib$name.so.1$" || fail "lib$name.so has no SONAME"
+  grep -q "SONAME *lib$name.so.1$" <<<"$(objdump -p "$lib/lib$name.so")" || fail "lib$name.so has no SONAME"
 done
 shown=$(nm -DC --defined-only "$lib"/libqv_commons*.so)
 grep -q " T qv_commons::QV_TimeHelper::secondsToDays(" <<<"$shown" || fail "a public function is hidden"
