@@ -31,13 +31,17 @@ class Failed(Exception):
     """The app broke a promise."""
 
 
-def injected(calls, error, paths):
-    """The start of a command line under which those system calls on those files fail."""
+def strace(calls, injection, paths):
+    """The start of a command line under which that happens to those system calls on those files."""
     command = ["strace", "-f", "-qq", "-o", "/dev/null", "-e", f"trace={calls}",
-               "-e", f"inject={calls}:error={error}"]
+               "-e", f"inject={calls}:{injection}"]
     for path in paths:
         command += ["-P", str(path)]
     return command
+
+
+def injected(calls, error, paths):
+    return strace(calls, f"error={error}", paths)
 
 
 def start(folder, under=()):
@@ -178,16 +182,50 @@ def is_complete(folder):
     return True
 
 
-def one_kill(generator):
-    """When a random kill landed, whether the refusal had been seen, and the next start's outcome."""
+def at_changes(folder, injection):
+    names = (FILE, FILE + "-journal", COPY, COPY + "-journal")
+    return strace("pwrite64,fdatasync,fsync,ftruncate,unlink", injection,
+                  [folder / name for name in names])
+
+
+def kill_before(call):
+    """Kills the app before that change of the files; the next start, or None if there are fewer."""
     with tempfile.TemporaryDirectory() as temporary:
         folder = Path(temporary) / "data"
-        process = begin(folder)
+        process = begin(folder, at_changes(folder, f"signal=KILL:when={call}"))
+        confirm(process)
+        seen = process.stdout.readline() == "told\n"
+        if seen:
+            os.killpg(process.pid, signal.SIGKILL)
+        process.communicate()
+        return None if seen else start(folder).outcome
+
+
+def kills_at_every_change():
+    outcomes = []
+    while (outcome := kill_before(len(outcomes) + 1)) is not None:
+        row(f"kill before change {len(outcomes) + 1} of the files", outcome, False,
+            "the refusal was not yet seen")
+        if outcome == "allowed":
+            raise Failed(f"killed before change {len(outcomes) + 1}: allowed")
+        outcomes.append(outcome)
+    if not {"asked", "refused"} <= set(outcomes):
+        raise Failed(f"no kill fell between the first change and the last: {outcomes}")
+
+
+def one_kill(generator):
+    """When a random kill landed, whether the refusal had been seen, and the next start's outcome.
+
+    Each change takes 3 ms longer than this disk needs, so that a kill can land between two.
+    """
+    with tempfile.TemporaryDirectory() as temporary:
+        folder = Path(temporary) / "data"
+        process = begin(folder, at_changes(folder, "delay_enter=3000"))
         confirm(process)
         while not (folder / FILE).exists():
             pass
-        time.sleep(generator.uniform(0, 0.008))
-        process.kill()
+        time.sleep(generator.uniform(0, 0.06))
+        os.killpg(process.pid, signal.SIGKILL)
         seen = "told" in process.stdout.read()
         process.wait()
         when = "after the last write" if is_complete(folder) else "between the writes"
@@ -222,6 +260,7 @@ def main():
             damage(folder)
         writing_faults()
         full_disk()
+        kills_at_every_change()
         kills(number, seed)
     except Failed as failure:
         sys.exit(f"broken: {failure}")
