@@ -13,20 +13,27 @@ unpacked_packages=(libc++-15-dev libc++1-15 libc++abi1-15)  # a machine has one 
 other_packages=(clang clang-19 libc++-19-dev llvm musl-dev googletest g++-i686-linux-gnu
   g++-arm-linux-gnueabihf g++-aarch64-linux-gnu qemu-user emscripten)
 
+# Those that are neither installed nor provided by what is: names move into other packages between releases.
 missing_packages() {
-  dpkg-query -W -f '${Package} ${db:Status-Status}\n' "$@" 2>/dev/null | awk '$2 == "installed" { print $1 }' |
-    sort -u | comm -13 - <(printf '%s\n' "$@" | sort -u)
+  dpkg-query -W -f '${db:Status-Status} ${Package}, ${Provides}\n' 2>/dev/null | sed -n 's/^installed //p' |
+    tr , '\n' | awk '{ print $1 }' | sort -u | comm -13 - <(printf '%s\n' "$@" | sort -u)
 }
 
-# Installs those of the packages that are missing, and says which. Where that can't be done, says
-# what is needed and goes on with what is there.
+# Those that this release of Debian doesn't have.
+lacking_packages() {
+  { LC_ALL=C apt-get install -s -qq "$@" 2>&1 >/dev/null || true; } |
+    sed -nE "s/^E: (Unable to locate package|Package) '?([^ ']+)('? has no installation candidate)?$/\2/p" | sort -u
+}
+
+# Installs those of the packages that are missing, and says which. What can't be installed is named,
+# and the rest goes on with what is there.
 install_packages() {
   if ! command -v dpkg-query apt-get >/dev/null; then
     echo "This is no Debian system. Needed, by Debian's names: $*"
     echo "Going on with what is there."
     return
   fi
-  local missing=() as_root=()
+  local missing=() lacking=() as_root=()
   mapfile -t missing < <(missing_packages "$@")
   if [ ${#missing[@]} -eq 0 ]; then
     return
@@ -35,11 +42,18 @@ install_packages() {
     as_root=(sudo)
   fi
   echo "Installing: ${missing[*]}"
-  if ! { "${as_root[@]}" apt-get update -qq &&
-    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq \
-      --no-install-recommends "${missing[@]}" >/dev/null; }; then
-    echo "They could not be installed. Going on with what is there."
+  if "${as_root[@]}" apt-get update -qq; then
+    mapfile -t lacking < <(lacking_packages "${missing[@]}")
+    if [ ${#lacking[@]} -ne 0 ]; then
+      echo "Left out, for this release does not have them: ${lacking[*]}"
+      mapfile -t missing < <(comm -23 <(printf '%s\n' "${missing[@]}") <(printf '%s\n' "${lacking[@]}"))
+    fi
+    if "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq \
+      --no-install-recommends "${missing[@]}" >/dev/null; then
+      return
+    fi
   fi
+  echo "They could not be installed. Going on with what is there."
 }
 
 # Unpacks packages into build/unpacked, each into a folder of its name, without installing them.
