@@ -9,7 +9,7 @@ set(QV_OBJCXX_FOUND OFF)
 set(QV_OBJCXX_MISSING "")
 
 find_program(QV_OBJCXX_COMPILER NAMES clang++-14 clang++-16 clang++-19 clang++)
-find_path(QV_GNUSTEP_INCLUDE Foundation/Foundation.h PATHS /usr/include/GNUstep)
+find_path(QV_GNUSTEP_INCLUDE Foundation/Foundation.h PATH_SUFFIXES GNUstep)
 find_library(QV_GNUSTEP_BASE gnustep-base)
 # GCC keeps its Objective-C headers in a folder named after its major version.
 file(GLOB qv_objc_headers /usr/lib/gcc/*/*/include/objc/objc.h)
@@ -75,6 +75,9 @@ void _Block_release(const void *block);
 }
 #endif
 ]] @ONLY)
+
+# For those that read the headers without CMake: the folder is another from release to release.
+file(CREATE_LINK ${QV_GNUSTEP_INCLUDE} ${qv_objc_compat}/GNUstep SYMBOLIC)
 
 add_library(qv_objc_common INTERFACE)
 target_include_directories(qv_objc_common SYSTEM INTERFACE ${qv_objc_compat} ${QV_GNUSTEP_INCLUDE})

@@ -59,7 +59,8 @@ def flags(arguments):
     folders = (switch_marks_on(libcxx, arguments.out), os.path.join(ROOT, 'tools/ios_sysroot'),
                os.path.realpath(libcxx), os.path.join(resources, 'include'),
                *glob.glob('/usr/include/*-linux-musl'), arguments.objc_headers,
-               os.path.join(ROOT, 'tests/uikit_standin'), '/usr/include/GNUstep')
+               os.path.join(ROOT, 'tests/uikit_standin'),
+               os.path.join(arguments.objc_headers, 'GNUstep'))
     return ['-nostdinc', '-nostdinc++', '-stdlib=libc++', *(f'-isystem{folder}' for folder in folders),
             '-D_GNU_SOURCE', '-DGNUSTEP', '-DGNUSTEP_BASE_LIBRARY=1', '-DGNU_RUNTIME=1',
             '-D_NATIVE_OBJC_EXCEPTIONS', '-Wunguarded-availability', '-Wno-nullability-extension',

@@ -89,7 +89,7 @@ ios() {
   local headers=$PWD/build/dev/objc_compat
   [ -d "$headers" ] || { echo "ios: left out, the dev preset's build of the iOS adapter is not here"; return 0; }
   apple ios iOS iPhoneOS arm64-apple-ios11.0 -isystem "$headers" \
-    -isystem "$PWD/tests/uikit_standin" -isystem /usr/include/GNUstep -DGNUSTEP \
+    -isystem "$PWD/tests/uikit_standin" -isystem "$headers/GNUstep" -DGNUSTEP \
     -DGNUSTEP_BASE_LIBRARY=1 -DGNU_RUNTIME=1 -D_NATIVE_OBJC_EXCEPTIONS -Wno-nullability-extension \
     -Wno-nullability-completeness
 }

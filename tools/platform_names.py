@@ -44,7 +44,7 @@ def flags(source, objc_headers, standin):
         '-fblocks', '-fobjc-arc', '-fobjc-runtime=gnustep-1.6', '-fobjc-exceptions', '-DGNUSTEP',
         '-DGNUSTEP_BASE_LIBRARY=1', '-DGNU_RUNTIME=1', '-D_NATIVE_OBJC_EXCEPTIONS', '-I' + ROOT,
         '-I' + os.path.join(ROOT, 'qv_commons/platform/uikit/include'), '-I' + standin,
-        '-isystem', objc_headers, '-isystem', '/usr/include/GNUstep',
+        '-isystem', objc_headers, '-isystem', os.path.join(objc_headers, 'GNUstep'),
         '-DAPI_AVAILABLE(...)=__attribute__((annotate("since " #__VA_ARGS__)))']
 
 
@@ -85,7 +85,8 @@ class Finder:
     def _platform(self, declaration):
         file = declaration.location.file
         return file is not None and os.path.realpath(file.name).startswith((
-            '/usr/include/GNUstep/', self._objc_headers + os.sep,
+            os.path.realpath(os.path.join(self._objc_headers, 'GNUstep')) + os.sep,
+            self._objc_headers + os.sep,
             *(os.path.join(self._standin, framework) + os.sep for framework in FRAMEWORKS)))
 
     def _walk(self, cursor, called=False):

@@ -12,8 +12,9 @@ import unittest
 
 import python_test
 
-python_test.needs(packages={'clang': 'python3-clang-14'},
-                  files={'/usr/include/GNUstep/Foundation/Foundation.h': 'libgnustep-base-dev'})
+OBJC_HEADERS = os.environ['QV_OBJC_HEADERS']
+python_test.needs(packages={'clang': 'python3-clang'},
+                  files={OBJC_HEADERS + '/GNUstep/Foundation/Foundation.h': 'libgnustep-base-dev'})
 
 HERE = os.path.dirname(os.path.abspath(__file__))
 sys.path.insert(0, os.path.join(HERE, '../../tools'))
@@ -21,7 +22,6 @@ sys.path.insert(0, os.path.join(HERE, '../../tools'))
 import platform_names  # noqa: E402
 
 LIST = os.path.join(HERE, 'platform_names.txt')
-OBJC_HEADERS = os.environ['QV_OBJC_HEADERS']
 OLDEST = (11, 0)  # the deployment target
 
 
