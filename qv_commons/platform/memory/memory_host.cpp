@@ -52,7 +52,7 @@ FileContents MemoryBundles::read(const FileLocation& location) const {
 }
 
 void MemoryConsole::print(std::string_view line) {
-  record_.add("console.print ", quoted(line));
+  record_.add("console.print ", inQuotes(line));
   lines.emplace_back(line);
 }
 

@@ -7,7 +7,7 @@ namespace {
 
 std::string listed(const std::vector<std::string>& texts) {
   std::string list;
-  for (const std::string& text : texts) list.append(list.empty() ? "" : ", ").append(quoted(text));
+  for (const std::string& text : texts) list.append(list.empty() ? "" : ", ").append(inQuotes(text));
   return list;
 }
 
@@ -29,7 +29,7 @@ void MemoryMailComposer::setToRecipients(std::vector<std::string> recipients) {
 }
 
 void MemoryMailComposer::setSubject(std::string subject) {
-  record().add(name(), ".setSubject ", quoted(subject));
+  record().add(name(), ".setSubject ", inQuotes(subject));
   message_.subject = std::move(subject);
 }
 
@@ -46,7 +46,7 @@ void MemoryMailComposer::setMessageBody(std::string body, bool isHTML) {
 }
 
 void MemoryMailComposer::addAttachment(MailAttachment attachment) {
-  record().add(name(), ".addAttachment ", quoted(attachment.fileName), " ", attachment.mimeType,
+  record().add(name(), ".addAttachment ", inQuotes(attachment.fileName), " ", attachment.mimeType,
                " ", std::to_string(attachment.data.size()), " bytes");
   message_.attachments.push_back(std::move(attachment));
 }
@@ -57,7 +57,7 @@ void MemoryAlert::tap(std::size_t index) {
 
 void MemoryAlert::addAction(std::string title, AlertActionStyle style, Completion handler) {
   constexpr std::string_view kStyles[] = {" default", " cancel", " destructive"};
-  record().add(name(), ".addAction ", quoted(title), kStyles[static_cast<std::size_t>(style)],
+  record().add(name(), ".addAction ", inQuotes(title), kStyles[static_cast<std::size_t>(style)],
                handler ? ", with handler" : ", no handler");
   actions_.push_back({std::move(title), style, std::move(handler)});
 }

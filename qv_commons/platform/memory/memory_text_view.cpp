@@ -7,7 +7,7 @@
 namespace qv_commons::memory {
 
 void MemoryAttributedString::addLink(std::string_view value, TextRange range) {
-  record_->add(name_, ".addLink ", quoted(value), " ", std::to_string(range.location), " ",
+  record_->add(name_, ".addLink ", inQuotes(value), " ", std::to_string(range.location), " ",
                std::to_string(range.length));
   links_.push_back({std::string(value), range});
 }

@@ -27,8 +27,8 @@ std::shared_ptr<MailComposer> MemoryViewControllers::makeMailComposer() {
 std::shared_ptr<AlertController> MemoryViewControllers::makeAlertController(
     std::string title, std::string message, AlertStyle preferredStyle) {
   std::string name = "alert" + std::to_string(alerts_.size() + 1);
-  record_.add("viewControllers.makeAlertController ", name, " ", quoted(title), " ",
-              quoted(message), preferredStyle == AlertStyle::alert ? " alert" : " actionSheet");
+  record_.add("viewControllers.makeAlertController ", name, " ", inQuotes(title), " ",
+              inQuotes(message), preferredStyle == AlertStyle::alert ? " alert" : " actionSheet");
   return alerts_.emplace_back(std::make_shared<MemoryAlert>(
       record_, transitions_, std::move(name),
       MemoryAlert::Texts{std::move(title), std::move(message), preferredStyle}));

@@ -16,7 +16,7 @@ std::optional<std::string> MemoryLabel::text() const {
 }
 
 void MemoryLabel::setText(const std::string& text) {
-  note("setText ", quoted(text));
+  note("setText ", inQuotes(text));
   text_ = text;
 }
 

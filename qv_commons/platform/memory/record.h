@@ -35,8 +35,8 @@ class Record {
   bool paused_ = false;
 };
 
-// `text` in double quotes, for a line of the record.
-inline std::string quoted(std::string_view text) {
+// `text` in double quotes, for a line of the record; not "quoted", which is also in namespace std.
+inline std::string inQuotes(std::string_view text) {
   std::string line = "\"";
   line.append(text).append("\"");
   return line;
