@@ -35,6 +35,12 @@ function(qv_add_library name export)
   target_compile_options(${name} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-semantic-interposition>)
 endfunction()
 
+# The sources that match the patterns; the next build takes in a new one by itself.
+function(qv_take_sources target)
+  file(GLOB sources CONFIGURE_DEPENDS ${ARGN})
+  target_sources(${target} PRIVATE ${sources})
+endfunction()
+
 # The public headers of the library `name`, installed as they lie in the tree; all others stay here.
 function(qv_public_headers name)
   target_sources(${name} PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES ${ARGN})

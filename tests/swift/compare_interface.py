@@ -22,8 +22,19 @@ def seen(folder):
 
 
 def expected(path):
+    names = {}
     with open(path, encoding='utf-8') as file:
-        return dict(line.rstrip('\n').split('|', 1) for line in file if not line.startswith('#'))
+        for line in file:
+            if line.startswith('#'):
+                continue
+            owner, _, _, name, declaration = line.rstrip('\n').split('|')
+            if owner == 'QV_SupportHelperDelegate':
+                names[owner] = f'protocol {owner} : NSObjectProtocol'
+            elif owner.startswith('QV_'):
+                names[owner] = f'class {owner}'
+            if declaration != '-':
+                names[f'{owner}.{name}'] = declaration
+    return names
 
 
 def main():

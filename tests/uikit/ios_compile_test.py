@@ -17,7 +17,7 @@ import python_test
 
 python_test.needs(programs={'clang++-19': 'clang-19', 'ninja': 'ninja-build', 'llvm-ar': 'llvm'},
                   files={'/usr/lib/llvm-19/include/c++/v1/__config_site': 'libc++-19-dev',
-                         '/usr/include/GNUstep/Foundation/Foundation.h': 'libgnustep-base-dev',
+                         os.environ['QV_OBJC_HEADERS'] + '/GNUstep/Foundation/Foundation.h': 'libgnustep-base-dev',
                          f'/usr/include/{os.uname().machine}-linux-musl': 'musl-dev'})
 
 ROOT = os.path.realpath(os.path.join(os.path.dirname(os.path.abspath(__file__)), '../..'))
@@ -32,9 +32,9 @@ NEEDS_UNPACKED = 'needs libc++ 15, which test.sh unpacks into build/unpacked'
 MACH_O_64, ARM64, OBJECT_FILE = 0xfeedfacf, 0x0100000c, 1
 LC_VERSION_MIN_IPHONEOS, LC_BUILD_VERSION, PLATFORM_IOS = 0x25, 0x32, 2
 
-PUBLIC_CLASSES = ('QV_AgeGateColorTheme', 'QV_AgeGateHelper', 'QV_AppInfoHelper', 'QV_BundleFileHelper',
-                  'QV_Links', 'QV_RateHelper', 'QV_SupportHelper', 'QV_TimeHelper',
-                  'QV_ViewControllerHelper')
+with open(os.path.join(ROOT, 'tests/uikit/public_interface.txt'), encoding='utf-8') as interface:
+    PUBLIC_CLASSES = sorted({line.split('|')[0] for line in interface if line.startswith('QV_')} -
+                            {'QV_SupportHelperDelegate'})
 # What no symbol of the public classes' own refers to.
 WITHOUT_REFERENCE = {'_OBJC_CLASS_$_QV_Installation', '_OBJC_CLASS_$_QV_AgeGateViewController',
                      '_OBJC_CLASS_$_QV_AgeGateRefusedViewController',

@@ -11,7 +11,8 @@ HEADERS = os.path.join(ROOT, 'qv_commons/platform/uikit/include/QV_Commons_iOS')
 FLAGS = ['-fsyntax-only', '-fobjc-arc', '-fobjc-runtime=gnustep-1.6', '-fblocks', '-fobjc-exceptions',
          '-DGNUSTEP', '-DGNUSTEP_BASE_LIBRARY=1', '-DGNU_RUNTIME=1', '-D_NATIVE_OBJC_EXCEPTIONS',
          '-I' + os.path.dirname(HEADERS), '-I' + os.path.join(ROOT, 'tests/uikit_standin'),
-         '-isystem', os.environ['QV_OBJC_HEADERS'], '-isystem', '/usr/include/GNUstep',
+         '-isystem', os.environ['QV_OBJC_HEADERS'],
+         '-isystem', os.environ['QV_OBJC_HEADERS'] + '/GNUstep',
          '-Wall', '-Wextra', '-Wnullability-completeness', '-Wswift-name-attribute', '-Werror']
 # Names that Swift makes of the platform's declaration, or of a property's name, by itself.
 INHERITED = {'mailComposeController:didFinishWithResult:error:', 'shared',
@@ -35,7 +36,7 @@ def clang(source, *more, language='objective-c'):
 
 def operations():
     with open(os.path.join(ROOT, 'tests/uikit/public_interface.txt'), encoding='utf-8') as file:
-        return [line.split() for line in file if not line.startswith('#')]
+        return [line.split('|')[:4] for line in file if not line.startswith('#')]
 
 
 def swift_names(tree):

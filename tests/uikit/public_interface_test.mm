@@ -14,9 +14,8 @@ class UIKitPublicInterface : public UIKitTest {
  protected:
   struct Operation {
     std::string owner;
-    char kind;
+    std::string kind;
     std::string selector;
-    std::string swiftName;
   };
 
   static std::vector<Operation> operations() {
@@ -24,9 +23,11 @@ class UIKitPublicInterface : public UIKitTest {
     std::vector<Operation> operations;
     for (std::string line; std::getline(file, line);) {
       if (line.starts_with('#')) continue;
+      std::istringstream fields(line);
       Operation operation;
-      std::istringstream(line) >> operation.owner >> operation.kind >> operation.selector >>
-          operation.swiftName;
+      std::getline(fields, operation.owner, '|');
+      std::getline(fields, operation.kind, '|');
+      std::getline(fields, operation.selector, '|');
       operations.push_back(operation);
     }
     return operations;
@@ -38,7 +39,7 @@ class UIKitPublicInterface : public UIKitTest {
 };
 
 TEST_F(UIKitPublicInterface, IsThereUnderEverySelector) {
-  EXPECT_EQ(operations().size(), 24U);
+  EXPECT_FALSE(operations().empty());
   for (const Operation& operation : operations()) {
     const SEL selector = sel_registerName(operation.selector.c_str());
     if (operation.owner == "QV_SupportHelperDelegate") {
@@ -49,7 +50,7 @@ TEST_F(UIKitPublicInterface, IsThereUnderEverySelector) {
     }
     const Class type = objc_lookUpClass(operation.owner.c_str());
     ASSERT_NE(type, Nil) << operation.owner;
-    const bool isOfClass = operation.kind == '+' || operation.kind == '@';
+    const bool isOfClass = operation.kind == "+" || operation.kind == "@";
     EXPECT_TRUE(isOfClass ? [type respondsToSelector:selector]
                           : [type instancesRespondToSelector:selector])
         << operation.owner << ' ' << operation.selector;
@@ -65,10 +66,11 @@ TEST_F(UIKitPublicInterface, HasNoOtherRequiredOperationInTheDelegate) {
 }
 
 TEST_F(UIKitPublicInterface, IsMadeOfPlainObjects) {
-  for (const char* name : {"QV_AgeGateColorTheme", "QV_AgeGateHelper", "QV_AppInfoHelper",
-                           "QV_BundleFileHelper", "QV_Links", "QV_RateHelper", "QV_SupportHelper",
-                           "QV_TimeHelper", "QV_ViewControllerHelper"}) {
-    EXPECT_EQ(class_getSuperclass(objc_lookUpClass(name)), [NSObject class]) << name;
+  for (const Operation& operation : operations()) {
+    if (const Class type = objc_lookUpClass(operation.owner.c_str());
+        type != [UISearchBar class] && operation.owner != "QV_SupportHelperDelegate") {
+      EXPECT_EQ(class_getSuperclass(type), [NSObject class]) << operation.owner;
+    }
   }
   EXPECT_NE([QV_AgeGateHelper new], nil);
   EXPECT_NE([QV_TimeHelper new], nil);
