@@ -25,16 +25,12 @@ void start(Stage& stage, const Options& options, const QString& scene, const QSt
   stage.note("-- a start of the app, " + appearance);
   QProcess process;
   process.setProcessChannelMode(QProcess::ForwardedChannels);
-  const auto& version = options.systemVersion;
-  process.start(QCoreApplication::applicationFilePath(),
-                {"--tour", stage.path(""), "--scene", scene, "--data", data, "--bundle",
-                 options.bundleDirectory, "--appearance", appearance, "--birth-date",
-                 birthDate.toString(Qt::ISODate), "--minimum-age",
-                 QString::number(options.minimumAge), "--system-version",
-                 QString("%1.%2.%3")
-                     .arg(version.majorVersion)
-                     .arg(version.minorVersion)
-                     .arg(version.patchVersion)});
+  process.start(
+      QCoreApplication::applicationFilePath(),
+      {"--tour", stage.path(""), "--scene", scene, "--data", data, "--bundle",
+       options.bundleDirectory, "--appearance", appearance, "--birth-date",
+       birthDate.toString(Qt::ISODate), "--minimum-age", QString::number(options.minimumAge),
+       "--system-version", QString::number(options.systemVersion)});
   constexpr int kPatienceMs = 60000;
   if (!process.waitForFinished(kPatienceMs) || process.exitCode() != 0) {
     stage.fail("the start did not end well: " + process.errorString());

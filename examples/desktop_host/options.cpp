@@ -17,8 +17,8 @@ struct Flags {
                                "YYYY-MM-DD"};
   QCommandLineOption minimumAge{"minimum-age", "The age gate's minimum in whole years.", "N", "16"};
   QCommandLineOption appearance{"appearance", "In place of the desktop's own look.", "light|dark"};
-  QCommandLineOption systemVersion{"system-version", "The version that the library takes it for.",
-                                   "X.Y", "17.0"};
+  QCommandLineOption systemVersion{"system-version",
+                                   "The major version that the library takes it for.", "N", "17"};
   QCommandLineOption memory{"memory", "With run.sh: run the tour on the memory adapter."};
   QCommandLineOption scene{"scene", "The part of the tour that this process plays.", "NAME"};
   QCommandLineOption help{{"h", "help"}, "Print this."};
@@ -57,14 +57,9 @@ Fault readAppearance(const QCommandLineParser& parser, const Flags& flags, Optio
 }
 
 Fault readSystemVersion(const QCommandLineParser& parser, const Flags& flags, Options& options) {
-  const QStringList numbers = parser.value(flags.systemVersion).split('.');
-  int parts[3] = {0, 0, 0};
-  bool isVersion = numbers.size() <= 3;
-  for (qsizetype i = 0; isVersion && i < numbers.size(); ++i) {
-    parts[i] = numbers[i].toInt(&isVersion);
-  }
-  options.systemVersion = {parts[0], parts[1], parts[2]};
-  return isVersion ? std::nullopt : wrongValue(parser, flags.systemVersion);
+  bool isNumber = false;
+  options.systemVersion = parser.value(flags.systemVersion).toInt(&isNumber);
+  return isNumber ? std::nullopt : wrongValue(parser, flags.systemVersion);
 }
 
 Fault readAll(const QCommandLineParser& parser, const Flags& flags, Options& options) {

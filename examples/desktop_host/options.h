@@ -7,7 +7,6 @@
 #include <cstdint>
 #include <optional>
 
-#include "qv_commons/platform/device.h"
 #include "qv_commons/platform/user_interface_style.h"
 
 namespace host {
@@ -20,7 +19,7 @@ struct Options {
   std::optional<QDate> birthDate;        // --birth-date
   std::int64_t minimumAge = 16;          // --minimum-age
   qv_commons::UserInterfaceStyle appearance = qv_commons::UserInterfaceStyle::unspecified;
-  qv_commons::OperatingSystemVersion systemVersion = {17, 0, 0};
+  int systemVersion = 17;  // --system-version
 };
 
 // Nothing where the arguments asked for help or can't be understood; then `exitCode` is how the

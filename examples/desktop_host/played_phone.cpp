@@ -5,7 +5,6 @@ namespace host {
 PlayedPhone::PlayedPhone(const qv_commons::Platform& desktop)
     : desktop_(desktop),
       platform_{.bundles = desktop.bundles,
-                .console = desktop.console,
                 .device = *this,
                 .clock = desktop.clock,
                 .calendar = desktop.calendar,

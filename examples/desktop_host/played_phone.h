@@ -24,15 +24,15 @@ class PlayedPhone final : public qv_commons::Device, public qv_commons::Applicat
 
   std::string localizedModel() const override { return "iPhone"; }
   std::string systemVersion() const override { return "14.4"; }
-  bool isOperatingSystemAtLeastVersion(
-      const qv_commons::OperatingSystemVersion& version) const override {
-    return desktop_.device.isOperatingSystemAtLeastVersion(version);
+  bool isSystemVersionAtLeast(int major) const override {
+    return desktop_.device.isSystemVersionAtLeast(major);
   }
   std::vector<std::string> preferredLanguages() const override { return {"en-GB"}; }
   qv_commons::Size screenBounds() const override { return {375, 812}; }
   qv_commons::UserInterfaceStyle userInterfaceStyle() const override {
     return desktop_.device.userInterfaceStyle();
   }
+  void print(std::string_view line) override { desktop_.application.print(line); }
   void openURL(const qv_commons::URL& url) override { openedLinks_.push_back(url); }
 
  private:

@@ -30,16 +30,14 @@ std::shared_ptr<QV_AgeGateColorTheme> QV_AgeGateColorTheme::defaultTheme() {
 }
 
 std::shared_ptr<QV_AgeGateColorTheme> defaultThemeFor(bool systemIsAtLeast13, bool styleIsDark) {
-  if (systemIsAtLeast13 && styleIsDark) {
-    return std::make_shared<QV_AgeGateColorTheme>(grey(0.118), grey(kWhite), grey(kBlack),
-                                                  grey(kWhite), grey(0.541));
-  }
-  return std::make_shared<QV_AgeGateColorTheme>(grey(kWhite), grey(kBlack), grey(kWhite),
-                                                grey(0.29), grey(0.514));
+  const bool isDark = systemIsAtLeast13 && styleIsDark;
+  return std::make_shared<QV_AgeGateColorTheme>(
+      grey(isDark ? 0.118 : kWhite), grey(isDark ? kWhite : kBlack), grey(isDark ? kBlack : kWhite),
+      grey(isDark ? kWhite : 0.29), grey(isDark ? 0.541 : 0.514));
 }
 
 std::shared_ptr<QV_AgeGateColorTheme> defaultThemeOf(const Platform& platform) {
-  const bool systemIsAtLeast13 = platform.device.isOperatingSystemAtLeastVersion(kSystemVersion13);
+  const bool systemIsAtLeast13 = platform.device.isSystemVersionAtLeast(13);
   const bool styleIsDark =
       systemIsAtLeast13 && platform.device.userInterfaceStyle() == UserInterfaceStyle::dark;
   return defaultThemeFor(systemIsAtLeast13, styleIsDark);

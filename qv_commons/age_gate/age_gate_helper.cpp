@@ -15,7 +15,7 @@ namespace {
 
 std::shared_ptr<QV_AgeGateViewController> makeAgeGateScreen(const Platform& platform) {
   auto screen = QV_AgeGateViewController::create(platform);
-  if (platform.device.isOperatingSystemAtLeastVersion(kSystemVersion13)) {
+  if (platform.device.isSystemVersionAtLeast(13)) {
     screen->setModalInPresentation(true);
   }
   return screen;

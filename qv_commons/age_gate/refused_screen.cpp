@@ -15,7 +15,7 @@ std::shared_ptr<QV_AgeGateRefusedViewController> makeRefusedScreen(const Platfor
   screen->privacyLink = std::move(content.privacyLink);
   screen->termsOfServiceLink = std::move(content.termsOfServiceLink);
   screen->colorTheme = std::move(content.colorTheme);
-  if (platform.device.isOperatingSystemAtLeastVersion(kSystemVersion13)) {
+  if (platform.device.isSystemVersionAtLeast(13)) {
     screen->setModalInPresentation(true);
     if (look == RefusedScreenLook::pinned) {
       screen->setOverrideUserInterfaceStyle(platform.device.userInterfaceStyle());

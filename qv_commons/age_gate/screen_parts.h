@@ -6,19 +6,22 @@
 #include <string_view>
 #include <utility>
 
-#include "qv_commons/app_info/bundle_file_helper.h"
-#include "qv_commons/platform/platform.h"
 #include "qv_commons/platform/view_controllers.h"
 #include "qv_commons/platform/views.h"
 
 namespace qv_commons {
 
+struct Platform;
+
+// A new screen from the layout of that name in the library's resource bundle.
+std::shared_ptr<LayoutScreen> makeScreen(const Platform& platform, std::string_view layout,
+                                         const LayoutScreenFactory& make);
+
 // A new screen from the layout that has its class's name.
 template <class Screen>
 std::shared_ptr<Screen> makeScreen(const Platform& platform) {
-  return std::static_pointer_cast<Screen>(platform.viewControllers.initWithNibName(
-      Screen::kClassName, resourceBundleOf(platform.bundles),
-      [&platform](std::unique_ptr<ViewController> native) {
+  return std::static_pointer_cast<Screen>(
+      makeScreen(platform, Screen::kClassName, [&platform](std::unique_ptr<ViewController> native) {
         return std::make_shared<Screen>(std::move(native), platform);
       }));
 }

@@ -7,9 +7,7 @@ namespace qv_commons {
 namespace {
 
 std::string textForKey(const Bundle& bundle, std::string_view key) {
-  InfoDictionaryValue value = bundle.objectForInfoDictionaryKey(key);
-  std::string* text = std::get_if<std::string>(&value);
-  return text ? std::move(*text) : std::string();
+  return bundle.textForInfoDictionaryKey(key).value_or("");
 }
 
 }  // namespace

@@ -1,8 +1,8 @@
 #include "qv_commons/app_info/bundle_file_helper.h"
 
 #include "qv_commons/app_info/utf8.h"
+#include "qv_commons/platform/application.h"
 #include "qv_commons/platform/bundle.h"
-#include "qv_commons/platform/console.h"
 #include "qv_commons/platform/platform.h"
 
 namespace qv_commons {
@@ -24,9 +24,9 @@ std::optional<std::string> QV_BundleFileHelper::loadJsonFromBundle(std::string_v
   if (!location) return std::nullopt;
   FileContents file = platform.bundles.read(*location);
   if (file.bytes && isUtf8(*file.bytes)) return std::move(file.bytes);
-  platform.console.print(std::string("QV_BundleFileHelper - Error!! Unable to parse  ")
-                             .append(filename)
-                             .append(".json"));
+  platform.application.print(std::string("QV_BundleFileHelper - Error!! Unable to parse  ")
+                                 .append(filename)
+                                 .append(".json"));
   return std::nullopt;
 }
 

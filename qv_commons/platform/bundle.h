@@ -7,12 +7,10 @@
 // Main thread only.
 #pragma once
 
-#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <variant>
 
 namespace qv_commons {
 
@@ -25,21 +23,13 @@ struct FileContents {
   std::string errorDescription;      // why not, in the platform's words; empty on success
 };
 
-// A value of another type than those the library tells apart: a list, a dictionary, a date.
-struct OtherObject {
-  friend bool operator==(OtherObject, OtherObject) = default;
-};
-
-// A value of an info dictionary; `std::monostate` if the key is absent.
-using InfoDictionaryValue =
-    std::variant<std::monostate, std::string, std::int64_t, double, bool, OtherObject>;
-
 class Bundle {
  public:
   virtual ~Bundle() = default;
 
-  // The value under `key` with the type it has; never converted.
-  virtual InfoDictionaryValue objectForInfoDictionaryKey(std::string_view key) const = 0;
+  // The text under `key` of the info dictionary, as it is; std::nullopt if there is no value or it
+  // is no text: a number is not converted.
+  virtual std::optional<std::string> textForInfoDictionaryKey(std::string_view key) const = 0;
 
   // std::nullopt if the bundle has no identifier.
   virtual std::optional<std::string> bundleIdentifier() const = 0;

@@ -28,20 +28,29 @@ namespace qv_commons {
 class View;
 
 // A view of the layout by its name, and the screen's weak reference to it.
-struct Outlet {
+class Outlet {
+ public:
   template <class ViewType>
   Outlet(std::string_view outletName, std::weak_ptr<ViewType>& reference)
-      : name(outletName),
-        view([&reference]() -> std::shared_ptr<View> { return reference.lock(); }),
-        connect([&reference](const std::shared_ptr<View>& found) {
-          reference = std::dynamic_pointer_cast<ViewType>(found);
-        }) {}
+      : name(outletName), reference_(&reference), access_(&access<ViewType>) {}
 
   std::string_view name;
-  std::function<std::shared_ptr<View>()> view;  // null if it is not connected
+
+  std::shared_ptr<View> view() const { return access_(reference_, nullptr); }  // null: unconnected
 
   // The reference becomes empty if the view is null or of another class.
-  std::function<void(const std::shared_ptr<View>&)> connect;
+  void connect(const std::shared_ptr<View>& view) const { access_(reference_, &view); }
+
+ private:
+  template <class ViewType>
+  static std::shared_ptr<View> access(void* reference, const std::shared_ptr<View>* connected) {
+    auto& outlet = *static_cast<std::weak_ptr<ViewType>*>(reference);
+    if (connected != nullptr) outlet = std::dynamic_pointer_cast<ViewType>(*connected);
+    return outlet.lock();
+  }
+
+  void* reference_;
+  std::shared_ptr<View> (*access_)(void* reference, const std::shared_ptr<View>* connected);
 };
 
 // What a view of the layout triggers by its selector name, for example "onConfirmPressed:".

@@ -19,14 +19,12 @@ class Application;
 class Bundles;
 class Calendar;
 class Clock;
-class Console;
 class Device;
 class UserDefaults;
 class ViewControllers;
 
 struct Platform {
   Bundles& bundles;
-  Console& console;
   Device& device;
   Clock& clock;
   Calendar& calendar;

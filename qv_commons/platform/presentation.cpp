@@ -1,7 +1,7 @@
 #include "qv_commons/platform/presentation.h"
 
 #include <algorithm>
-#include <iterator>
+#include <utility>
 
 #include "qv_commons/platform/fatal_error.h"
 
@@ -32,13 +32,13 @@ void NativeController::present(std::shared_ptr<ViewController> controller, bool 
 
 void NativeController::dismiss(bool animated, Completion completion) {
   const bool isBelow = presented_ != nullptr;
-  const auto stays = [&](const Presentations::Presentation& presentation) {
-    const NativeController& native = of(*presentation.presented);
-    return isBelow ? !native.isAbove(*this) : &native != this;
-  };
-  const auto removed = std::stable_partition(presentations_.begin(), presentations_.end(), stays);
-  std::vector kept(std::make_move_iterator(removed), std::make_move_iterator(presentations_.end()));
-  presentations_.erase(removed, presentations_.end());
+  std::vector<Presentations::Presentation> kept;
+  for (auto at = presentations_.begin(); at != presentations_.end();) {
+    const NativeController& native = of(*at->presented);
+    const bool goes = isBelow ? native.isAbove(*this) : &native == this;
+    if (goes) kept.push_back(std::move(*at));
+    at = goes ? presentations_.erase(at) : at + 1;
+  }
   if (kept.empty()) return;
   for (auto top = kept.rbegin(); top != kept.rend(); ++top) {
     NativeController& native = of(*top->presented);

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "qv_commons/app_info/app_info_helper.h"
-#include "qv_commons/platform/console.h"
+#include "qv_commons/platform/application.h"
 #include "qv_commons/platform/device.h"
 #include "qv_commons/platform/platform.h"
 #include "qv_commons/platform/view_controllers.h"
@@ -46,7 +46,7 @@ void attachReceipt(const Platform& platform, MailComposer& composer) {
   if (!location) return;
   const FileContents receipt = platform.bundles.read(*location);
   if (!receipt.bytes) {
-    platform.console.print("error converting receipt to Data: " + receipt.errorDescription);
+    platform.application.print("error converting receipt to Data: " + receipt.errorDescription);
     return;
   }
   composer.addAttachment(supportMailAttachment(*receipt.bytes));

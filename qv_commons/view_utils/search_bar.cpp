@@ -6,7 +6,7 @@
 namespace qv_commons {
 
 bool searchTextFieldIsPublished() {
-  return currentPlatform().device.isOperatingSystemAtLeastVersion(kSystemVersion13);
+  return currentPlatform().device.isSystemVersionAtLeast(13);
 }
 
 }  // namespace qv_commons

@@ -76,12 +76,12 @@ TEST_F(DefaultTheme, IsDarkOnADarkSystem) {
   platform.device().style = UserInterfaceStyle::dark;
   expectDark(*QV_AgeGateColorTheme::defaultTheme());
   EXPECT_THAT(platform.record().lines(),
-              ElementsAre("device.isAtLeast 13.0.0", "device.userInterfaceStyle"));
+              ElementsAre("device.isSystemVersionAtLeast 13", "device.userInterfaceStyle"));
 }
 
 TEST_F(DefaultTheme, IsDarkFromVersionThirteenOn) {
   platform.device().style = UserInterfaceStyle::dark;
-  platform.device().version = {13, 0, 0};
+  platform.device().version = "13.0";
   expectDark(*QV_AgeGateColorTheme::defaultTheme());
 }
 
@@ -97,9 +97,9 @@ TEST_F(DefaultTheme, IsLightWhereTheSystemDoesNotSay) {
 
 TEST_F(DefaultTheme, IsLightBeforeVersionThirteenAndDoesNotAskForTheStyle) {
   platform.device().style = UserInterfaceStyle::dark;
-  platform.device().version = {12, 4, 9};
+  platform.device().version = "12.4.9";
   expectLight(*QV_AgeGateColorTheme::defaultTheme());
-  EXPECT_THAT(platform.record().lines(), ElementsAre("device.isAtLeast 13.0.0"));
+  EXPECT_THAT(platform.record().lines(), ElementsAre("device.isSystemVersionAtLeast 13"));
 }
 
 TEST_F(DefaultTheme, IsANewObjectAtEachCall) {

@@ -48,7 +48,7 @@ TEST_F(AgeGateConfirm, LetsAnOldEnoughUserThroughAtOnce) {
 }
 
 TEST_F(AgeGateConfirm, RefusesAUserUnderAge) {
-  platform.mainBundle().info["CFBundleDisplayName"] = std::string("Notes");
+  platform.mainBundle().info["CFBundleDisplayName"] = "Notes";
   startAndForgetLines();
   confirm(kEighteenYearsAgo + kDay);
   EXPECT_THAT(
@@ -61,9 +61,9 @@ TEST_F(AgeGateConfirm, RefusesAUserUnderAge) {
           "libraryBundle.URLForResource QV_Commons_iOS.bundle",
           "bundles.bundleWithURL /library/QV_Commons_iOS.bundle",
           "viewControllers.initWithNibName screen2 QV_AgeGateRefusedViewController resourceBundle",
-          "device.isAtLeast 13.0.0", "device.userInterfaceStyle", "device.isAtLeast 13.0.0",
-          "screen2.setModalInPresentation true", "device.userInterfaceStyle",
-          "screen2.setOverrideUserInterfaceStyle light",
+          "device.isSystemVersionAtLeast 13", "device.userInterfaceStyle",
+          "device.isSystemVersionAtLeast 13", "screen2.setModalInPresentation true",
+          "device.userInterfaceStyle", "screen2.setOverrideUserInterfaceStyle light",
           "home.presentViewController screen2 animated, no completion",
           "screen2.load QV_AgeGateRefusedViewController",
           "screen2.bg.setBackgroundColor 1.0 0.0 0.0 1.0", "screen2.bg.setCornerRadius 8.0",
@@ -76,7 +76,7 @@ TEST_F(AgeGateConfirm, RefusesAUserUnderAge) {
           "screen2.contact.setLinkTextAttributes 0.5 0.0 0.5 1.0",
           "screen2.contact.setAttributedText", "screen2.contact.setTextColor 0.25 0.5 0.75 1.0",
           "screen2.contact.setDelegate", "screen2.header.setTextColor 0.25 0.5 0.75 1.0",
-          "screen2.header.text", "mainBundle.objectForInfoDictionaryKey CFBundleDisplayName",
+          "screen2.header.text", "mainBundle.textForInfoDictionaryKey CFBundleDisplayName",
           "screen2.header.setText \"We’re sorry, Notes isn’t available to you\""));
   EXPECT_EQ(completions, 0);
   EXPECT_THAT(flags(), UnorderedElementsAre(Pair("QV_AgeGate_Shown", true),
@@ -104,7 +104,7 @@ TEST_F(AgeGateConfirm, PinsTheRefusalToTheLookOfThatMoment) {
 }
 
 TEST_F(AgeGateConfirm, NeitherPinsTheRefusalNorMakesItModalBeforeVersionThirteen) {
-  platform.device().version = {12, 4, 0};
+  platform.device().version = "12.4";
   startAndForgetLines();
   confirm(kNow);
   EXPECT_FALSE(screen()->isModalInPresentation());
@@ -163,9 +163,9 @@ TEST_F(AgeGateConfirm, WritesBothFlagsAndShowsNothingWithoutAHost) {
                   "bundles.bundleWithURL /library/QV_Commons_iOS.bundle",
                   "viewControllers.initWithNibName screen2 QV_AgeGateRefusedViewController "
                   "resourceBundle",
-                  "device.isAtLeast 13.0.0", "device.userInterfaceStyle", "device.isAtLeast 13.0.0",
-                  "screen2.setModalInPresentation true", "device.userInterfaceStyle",
-                  "screen2.setOverrideUserInterfaceStyle light"));
+                  "device.isSystemVersionAtLeast 13", "device.userInterfaceStyle",
+                  "device.isSystemVersionAtLeast 13", "screen2.setModalInPresentation true",
+                  "device.userInterfaceStyle", "screen2.setOverrideUserInterfaceStyle light"));
   EXPECT_EQ(screen()->name(), "screen1");  // the refusal is gone
 }
 

@@ -28,9 +28,9 @@ const std::vector<std::string> kFirstStart = {
     "libraryBundle.URLForResource QV_Commons_iOS.bundle",
     "bundles.bundleWithURL /library/QV_Commons_iOS.bundle",
     "viewControllers.initWithNibName screen1 QV_AgeGateViewController resourceBundle",
-    "device.isAtLeast 13.0.0",
+    "device.isSystemVersionAtLeast 13",
     "device.userInterfaceStyle",
-    "device.isAtLeast 13.0.0",
+    "device.isSystemVersionAtLeast 13",
     "screen1.setModalInPresentation true",
     "home.presentViewController screen1 animated, no completion",
     "screen1.load QV_AgeGateViewController",
@@ -62,9 +62,9 @@ const std::vector<std::string> kLaterStartOfARefusedUser = {
     "libraryBundle.URLForResource QV_Commons_iOS.bundle",
     "bundles.bundleWithURL /library/QV_Commons_iOS.bundle",
     "viewControllers.initWithNibName screen1 QV_AgeGateRefusedViewController resourceBundle",
-    "device.isAtLeast 13.0.0",
+    "device.isSystemVersionAtLeast 13",
     "device.userInterfaceStyle",
-    "device.isAtLeast 13.0.0",
+    "device.isSystemVersionAtLeast 13",
     "screen1.setModalInPresentation true",
     "home.presentViewController screen1 animated, no completion",
     "screen1.load QV_AgeGateRefusedViewController",
@@ -85,7 +85,7 @@ const std::vector<std::string> kLaterStartOfARefusedUser = {
     "screen1.contact.setDelegate",
     "screen1.header.setTextColor 0.25 0.5 0.75 1.0",
     "screen1.header.text",
-    "mainBundle.objectForInfoDictionaryKey CFBundleDisplayName",
+    "mainBundle.textForInfoDictionaryKey CFBundleDisplayName",
     "screen1.header.setText \"We’re sorry, Notes isn’t available to you\""};
 
 std::vector<std::string> without(std::vector<std::string> lines,
@@ -139,7 +139,7 @@ TEST_F(AgeGateHelper, KeepsTheHostsScreenAliveAsLongAsItPresents) {
 }
 
 TEST_F(AgeGateHelper, MakesNothingModalBeforeVersionThirteen) {
-  platform.device().version = {12, 4, 0};
+  platform.device().version = "12.4";
   start();
   EXPECT_EQ(lines(), without(kFirstStart,
                              {"device.userInterfaceStyle", "screen1.setModalInPresentation true"}));
@@ -163,7 +163,7 @@ TEST_F(AgeGateHelper, DoesNothingForSuchAUserWithoutACompletion) {
 }
 
 TEST_F(AgeGateHelper, ShowsTheRefusalAgainAtALaterStart) {
-  platform.mainBundle().info["CFBundleDisplayName"] = std::string("Notes");
+  platform.mainBundle().info["CFBundleDisplayName"] = "Notes";
   setFlags(true, true);
   start();
   EXPECT_EQ(lines(), kLaterStartOfARefusedUser);
@@ -190,15 +190,15 @@ TEST_F(AgeGateHelper, DoesNotPinTheLookOfARefusalAtALaterStart) {
 }
 
 TEST_F(AgeGateHelper, LetsARefusalBeSwipedAwayBeforeVersionThirteenOnly) {
-  platform.mainBundle().info["CFBundleDisplayName"] = std::string("Notes");
-  platform.device().version = {12, 4, 0};
+  platform.mainBundle().info["CFBundleDisplayName"] = "Notes";
+  platform.device().version = "12.4";
   setFlags(true, true);
   start();
   EXPECT_EQ(lines(), without(kLaterStartOfARefusedUser,
                              {"device.userInterfaceStyle", "screen1.setModalInPresentation true"}));
   EXPECT_TRUE(screen()->swipeAway());
 
-  platform.device().version = {13, 0, 0};
+  platform.device().version = "13.0";
   start();
   EXPECT_FALSE(screen()->swipeAway());
 }

@@ -52,19 +52,19 @@ TEST_F(RefusedScreen, NamesItsOutletsAsTheLayoutDoesAndHasNoActions) {
 }
 
 TEST_F(RefusedScreen, NamesTheApp) {
-  platform.mainBundle().info["CFBundleDisplayName"] = std::string("Notes");
+  platform.mainBundle().info["CFBundleDisplayName"] = "Notes";
   startRefused();
   EXPECT_EQ(headerText(), "We’re sorry, Notes isn’t available to you");
 }
 
 TEST_F(RefusedScreen, LeavesTheNameOutWhereTheAppHasNone) {
-  platform.mainBundle().info["CFBundleName"] = std::string("Notes");
+  platform.mainBundle().info["CFBundleName"] = "Notes";
   startRefused();
   EXPECT_EQ(headerText(), "We’re sorry,  isn’t available to you");
 }
 
 TEST_F(RefusedScreen, NamesTheAppWhereverTheHeaderSaysSo) {
-  platform.mainBundle().info["CFBundleDisplayName"] = std::string("Notes");
+  platform.mainBundle().info["CFBundleDisplayName"] = "Notes";
   layout()["header"].text = "[APPNAME]: no [APPNAME] for now";
   startRefused();
   EXPECT_EQ(headerText(), "Notes: no Notes for now");

@@ -15,7 +15,7 @@ namespace {
 
 class ReadOnlyBundle final : public Bundle {
  public:
-  InfoDictionaryValue objectForInfoDictionaryKey(std::string_view key) const override {
+  std::optional<std::string> textForInfoDictionaryKey(std::string_view key) const override {
     return std::string(key);
   }
   std::optional<std::string> bundleIdentifier() const override { return "com.example.notes"; }
@@ -41,9 +41,9 @@ TEST(AppInfoThreads, MayAskAllAtOnce) {
   memory::MemoryPlatform memory;
   ReadOnlyBundles bundles;
   const Platform& rest = memory.platform();
-  const Platform platform = {bundles,          rest.console,        rest.device,
-                             rest.clock,       rest.calendar,       rest.userDefaults,
-                             rest.application, rest.viewControllers};
+  const Platform platform = {
+      bundles,           rest.device,      rest.clock,          rest.calendar,
+      rest.userDefaults, rest.application, rest.viewControllers};
   const ScopedPlatform scope(platform);
   std::vector<std::string> answers(4);
   std::vector<std::thread> threads;

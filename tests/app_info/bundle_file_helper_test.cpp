@@ -53,7 +53,7 @@ TEST_F(BundleFiles, GiveNoResourceBundleIfTheLibraryHasNone) {
 TEST_F(BundleFiles, GiveNoResourceBundleIfItCannotBeOpened) {
   platform.bundles().openable.clear();
   EXPECT_EQ(QV_BundleFileHelper::getQVCommonsResourceBundle(), nullptr);
-  EXPECT_THAT(platform.console().lines, IsEmpty());
+  EXPECT_THAT(platform.application().printed, IsEmpty());
 }
 
 TEST_F(BundleFiles, DoNotLookForTheResourceBundleInTheApp) {
@@ -78,7 +78,7 @@ TEST_F(BundleFiles, GiveTextThatIsNotJson) {
   EXPECT_EQ(load("empty"), "");
   EXPECT_EQ(load("nul"), "\0{}\0"s);
   EXPECT_EQ(load("mark"), "\xEF\xBB\xBF{}");
-  EXPECT_THAT(platform.console().lines, IsEmpty());
+  EXPECT_THAT(platform.application().printed, IsEmpty());
 }
 
 TEST_F(BundleFiles, PrintNothingAboutAMissingFile) {
@@ -92,7 +92,7 @@ TEST_F(BundleFiles, DoNotFindJsonThatOnlyTheLibraryHas) {
   }
   platform.bundles().files["/library/config.json"] = {"{}", ""};
   EXPECT_EQ(load("config"), std::nullopt);
-  EXPECT_THAT(platform.console().lines, IsEmpty());
+  EXPECT_THAT(platform.application().printed, IsEmpty());
 }
 
 TEST_F(BundleFiles, AddTheExtensionWhateverTheName) {
@@ -115,21 +115,21 @@ TEST_F(BundleFiles, LeaveTheNameToTheBundlesOwnRule) {
 TEST_F(BundleFiles, ReportAFileThatIsNotUtf8) {
   add("settings.json", {"{\"name\": \"caf\xE9\"}", ""});
   EXPECT_EQ(load("settings"), std::nullopt);
-  EXPECT_THAT(platform.console().lines,
+  EXPECT_THAT(platform.application().printed,
               ElementsAre("QV_BundleFileHelper - Error!! Unable to parse  settings.json"));
 }
 
 TEST_F(BundleFiles, ReportAFileThatCannotBeReadWithoutSayingWhy) {
   add("settings.json", {std::nullopt, "permission denied"});
   EXPECT_EQ(load("settings"), std::nullopt);
-  EXPECT_THAT(platform.console().lines,
+  EXPECT_THAT(platform.application().printed,
               ElementsAre("QV_BundleFileHelper - Error!! Unable to parse  settings.json"));
 }
 
 TEST_F(BundleFiles, ReportAFileThatWasDeletedMeanwhile) {
   platform.mainBundle().resources["gone.json"] = "/app/gone.json";
   EXPECT_EQ(load("gone"), std::nullopt);
-  EXPECT_THAT(platform.console().lines,
+  EXPECT_THAT(platform.application().printed,
               ElementsAre("QV_BundleFileHelper - Error!! Unable to parse  gone.json"));
 }
 

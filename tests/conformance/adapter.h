@@ -25,7 +25,8 @@
 namespace qv_commons::conformance {
 
 struct MainBundle {
-  std::map<std::string, InfoDictionaryValue> info = {};
+  std::map<std::string, std::string> texts = {};
+  std::map<std::string, int> numbers = {};
   std::optional<std::string> identifier = {};
   bool namesReceiptLocation = false;
 };
@@ -46,7 +47,7 @@ class Adapter {
 
   // The environment; to be set before the first call of `platform`.
   virtual void useMainBundle(const MainBundle& bundle) = 0;
-  virtual void useSystemVersion(const OperatingSystemVersion& version) = 0;
+  virtual void useSystemVersion(int major) = 0;
   virtual void useUserInterfaceStyle(UserInterfaceStyle style) = 0;
   virtual void useMail(bool available) = 0;
 

@@ -9,34 +9,20 @@ namespace qv_commons::conformance {
 
 class BundleConformance : public Suite {};
 
-TEST_P(BundleConformance, GivesEachValueTheTypeItHas) {
-  adapter().useMainBundle({.info = {{"text", std::string("2.4.1")},
-                                    {"empty", std::string()},
-                                    {"accents", std::string("Grüße 📮")},
-                                    {"whole", std::int64_t{317}},
-                                    {"negative", std::int64_t{-9}},
-                                    {"fraction", 1.5},
-                                    {"yes", true},
-                                    {"no", false},
-                                    {"other", OtherObject{}}}});
+TEST_P(BundleConformance, HasTheTextsOfItsInfoDictionary) {
+  adapter().useMainBundle({.texts = {{"text", " 2.4.1\n"}, {"empty", ""}, {"accents", "Grüße 📮"}}});
   const Bundle& bundle = platform().bundles.mainBundle();
-  using Value = InfoDictionaryValue;
-  EXPECT_EQ(bundle.objectForInfoDictionaryKey("text"), Value(std::string("2.4.1")));
-  EXPECT_EQ(bundle.objectForInfoDictionaryKey("empty"), Value(std::string()));
-  EXPECT_EQ(bundle.objectForInfoDictionaryKey("accents"), Value(std::string("Grüße 📮")));
-  EXPECT_EQ(bundle.objectForInfoDictionaryKey("whole"), Value(std::int64_t{317}));
-  EXPECT_EQ(bundle.objectForInfoDictionaryKey("negative"), Value(std::int64_t{-9}));
-  EXPECT_EQ(bundle.objectForInfoDictionaryKey("fraction"), Value(1.5));
-  EXPECT_EQ(bundle.objectForInfoDictionaryKey("yes"), Value(true));
-  EXPECT_EQ(bundle.objectForInfoDictionaryKey("no"), Value(false));
-  EXPECT_EQ(bundle.objectForInfoDictionaryKey("other"), Value(OtherObject{}));
+  EXPECT_EQ(bundle.textForInfoDictionaryKey("text"), " 2.4.1\n");
+  EXPECT_EQ(bundle.textForInfoDictionaryKey("empty"), "");
+  EXPECT_EQ(bundle.textForInfoDictionaryKey("accents"), "Grüße 📮");
 }
 
-TEST_P(BundleConformance, HasNothingUnderAKeyThatIsAbsent) {
-  adapter().useMainBundle({.info = {{"CFBundleName", std::string("Notes")}}});
+TEST_P(BundleConformance, HasNoTextUnderANumbersKeyOrAnAbsentOne) {
+  adapter().useMainBundle({.texts = {{"CFBundleName", "Notes"}}, .numbers = {{"number", 317}}});
   const Bundle& bundle = platform().bundles.mainBundle();
-  EXPECT_EQ(bundle.objectForInfoDictionaryKey("CFBundleDisplayName"), InfoDictionaryValue());
-  EXPECT_EQ(bundle.objectForInfoDictionaryKey(""), InfoDictionaryValue());
+  EXPECT_EQ(bundle.textForInfoDictionaryKey("number"), std::nullopt);
+  EXPECT_EQ(bundle.textForInfoDictionaryKey("CFBundleDisplayName"), std::nullopt);
+  EXPECT_EQ(bundle.textForInfoDictionaryKey(""), std::nullopt);
 }
 
 TEST_P(BundleConformance, HasItsIdentifier) {

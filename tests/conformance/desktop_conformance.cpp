@@ -19,25 +19,16 @@
 namespace qv_commons::conformance {
 namespace {
 
-// An element of a property list. The tests' texts hold no character that XML reserves.
-std::string elementOf(const InfoDictionaryValue& value) {
-  if (const auto* text = std::get_if<std::string>(&value)) return "<string>" + *text + "</string>";
-  if (const auto* number = std::get_if<std::int64_t>(&value)) {
-    return "<integer>" + std::to_string(*number) + "</integer>";
-  }
-  if (const auto* real = std::get_if<double>(&value)) {
-    return "<real>" + std::to_string(*real) + "</real>";
-  }
-  if (const auto* truth = std::get_if<bool>(&value)) return *truth ? "<true/>" : "<false/>";
-  return "<array/>";
-}
-
 class DesktopAdapter final : public Adapter {
  public:
   void useMainBundle(const MainBundle& bundle) override {
     std::string elements;
-    for (const auto& [key, value] : bundle.info) {
-      elements += "<key>" + key + "</key>" + elementOf(value);
+    // The tests' texts hold no character that XML reserves.
+    for (const auto& [key, text] : bundle.texts) {
+      elements += "<key>" + key + "</key><string>" + text + "</string>";
+    }
+    for (const auto& [key, number] : bundle.numbers) {
+      elements += "<key>" + key + "</key><integer>" + std::to_string(number) + "</integer>";
     }
     if (bundle.identifier) {
       elements += "<key>CFBundleIdentifier</key><string>" + *bundle.identifier + "</string>";
@@ -48,9 +39,7 @@ class DesktopAdapter final : public Adapter {
     if (bundle.namesReceiptLocation) makeDirectory("bundle/StoreKit");
     settings_.bundleDirectory = folder_.path("bundle");
   }
-  void useSystemVersion(const OperatingSystemVersion& version) override {
-    settings_.systemVersion = version;
-  }
+  void useSystemVersion(int major) override { settings_.systemVersion = major; }
   void useUserInterfaceStyle(UserInterfaceStyle style) override {
     settings_.userInterfaceStyle = style;
   }

@@ -8,12 +8,12 @@ namespace {
 class MemoryAdapter final : public Adapter {
  public:
   void useMainBundle(const MainBundle& bundle) override {
-    memory_.mainBundle().info = {bundle.info.begin(), bundle.info.end()};
+    memory_.mainBundle().info = {bundle.texts.begin(), bundle.texts.end()};
     memory_.mainBundle().identifier = bundle.identifier;
     if (bundle.namesReceiptLocation) memory_.mainBundle().receiptLocation = "StoreKit/receipt";
   }
-  void useSystemVersion(const OperatingSystemVersion& version) override {
-    memory_.device().version = version;
+  void useSystemVersion(int major) override {
+    memory_.device().version = std::to_string(major) + ".9";
   }
   void useUserInterfaceStyle(UserInterfaceStyle style) override { memory_.device().style = style; }
   void useMail(bool available) override { memory_.viewControllers().mailAvailable = available; }
@@ -36,9 +36,9 @@ class MemoryAdapter final : public Adapter {
   FileLocation missingFile() override { return "missing"; }
 
   std::vector<std::string> printedBy(const std::function<void()>& act) override {
-    memory_.console().lines.clear();
+    memory_.application().printed.clear();
     act();
-    return memory_.console().lines;
+    return memory_.application().printed;
   }
   std::vector<std::string> openedBy(const std::function<void()>& act) override {
     memory_.application().opened.clear();

@@ -17,7 +17,6 @@
   QV_RUN_SUITE(BundleResourcesConformance, name, make); \
   QV_RUN_SUITE(CalendarConformance, name, make);        \
   QV_RUN_SUITE(ClockConformance, name, make);           \
-  QV_RUN_SUITE(ConsoleConformance, name, make);         \
   QV_RUN_SUITE(DeviceConformance, name, make);          \
   QV_RUN_SUITE(FilesConformance, name, make);           \
   QV_RUN_SUITE(MailComposerConformance, name, make);    \

@@ -69,7 +69,6 @@ void AgeGateTest::restart(DesktopSettings settings) {
   desktop_ = std::make_unique<DesktopPlatform>(std::move(settings));
   const Platform& real = desktop_->platform();
   platform_ = std::make_unique<Platform>(Platform{.bundles = real.bundles,
-                                                  .console = real.console,
                                                   .device = real.device,
                                                   .clock = clock_,
                                                   .calendar = real.calendar,

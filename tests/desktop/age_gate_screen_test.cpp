@@ -86,7 +86,7 @@ TEST_F(AgeGateTest, StaysWhateverTheUserDoesToLeave) {
 
 TEST_F(AgeGateTest, CanBeLeftBelowSystemVersion13AndAsksAgain) {
   DesktopSettings old = settings();
-  old.systemVersion = {12, 4, 0};
+  old.systemVersion = 12;
   restart(old);
   startAgeGate();
   press(*gate(), Qt::Key_Escape);

@@ -58,30 +58,35 @@ TEST_F(BundleFolders, ReadBinary) {
   EXPECT_THAT(errors_, IsEmpty());
 }
 
-InfoDictionaryValue valueIn(const std::string& elements) {
-  const std::optional<InfoDictionary> info = parseInfoDictionary(plist(elements));
-  return info && info->contains("k") ? info->at("k") : OtherObject{};
+// The text under the key "k", if the list is one and has a text there.
+std::optional<std::string> textIn(const std::optional<InfoTexts>& info) {
+  return info && info->contains("k") ? std::optional(info->at("k")) : std::nullopt;
 }
 
-TEST(PropertyList, HoldsValuesOfEachKind) {
-  EXPECT_EQ(
-      std::get<std::string>(valueIn("<key>k</key><string>a<![CDATA[<b>]]>&#x1f4ee;</string>")),
-      "a<b>📮");
-  EXPECT_EQ(std::get<std::string>(valueIn("<key>k</key><string/>")), "");
-  const std::pair<const char*, std::int64_t> integers[] = {
-      {"317", 317}, {" -5 ", -5}, {"0x10", 16}, {"010", 10}, {"18446744073709551615", -1}};
-  for (const auto& [text, number] : integers) {
-    EXPECT_EQ(
-        std::get<std::int64_t>(valueIn("<key>k</key><integer>" + std::string(text) + "</integer>")),
-        number);
+std::optional<std::string> textInXml(const std::string& element) {
+  return textIn(parseInfoTexts(plist("<key>k</key>" + element)));
+}
+
+TEST(PropertyList, HoldsTexts) {
+  EXPECT_EQ(textInXml("<string>a<![CDATA[<b>]]>&#x1f4ee;</string>"), "a<b>📮");
+  EXPECT_EQ(textInXml("<string/>"), "");
+}
+
+TEST(PropertyList, SkipsWhatIsNoText) {
+  for (const char* other :
+       {"<array><string>a</string></array>", "<dict><key>k</key><string>a</string></dict>",
+        "<data>AA==</data>", "<integer>317</integer>", "<integer>x</integer>", "<real>1.5</real>",
+        "<true/>", "<false/>", "<date>2020-01-01T00:00:00Z</date>"}) {
+    const auto info = parseInfoTexts(
+        plist("<key>k</key>" + std::string(other) + "<key>next</key><string>b</string>"));
+    ASSERT_TRUE(info) << other;
+    EXPECT_EQ(*info, (InfoTexts{{"next", "b"}})) << other;
   }
-  EXPECT_EQ(std::get<double>(valueIn("<key>k</key><real>1.5</real>")), 1.5);
-  EXPECT_TRUE(std::get<bool>(valueIn("<key>k</key><true/>")));
-  EXPECT_FALSE(std::get<bool>(valueIn("<key>k</key><false/>")));
-  for (const char* other : {"<array><string>a</string></array>", "<dict/>", "<data>AA==</data>",
-                            "<integer>x</integer>", "<date>2020-01-01T00:00:00Z</date>"}) {
-    EXPECT_TRUE(std::holds_alternative<OtherObject>(valueIn("<key>k</key>" + std::string(other))));
-  }
+}
+
+TEST(PropertyList, TakesTheLastValueOfAKey) {
+  EXPECT_EQ(textInXml("<string>a</string><key>k</key><string>b</string>"), "b");
+  EXPECT_EQ(textInXml("<string>a</string><key>k</key><integer>1</integer>"), std::nullopt);
 }
 
 // A binary list of `objects`, whose indices and places are bytes, the first object on top.
@@ -99,48 +104,51 @@ std::string binaryList(const std::vector<std::string>& objects) {
          std::string(15, '\0') + table;
 }
 
-InfoDictionaryValue valueInBinary(const std::string& object) {
-  const std::optional<InfoDictionary> info =
-      parseInfoDictionary(binaryList({std::string("\xd1\x01\x02"), "\x51k", object}));
-  return info && info->contains("k") ? info->at("k") : OtherObject{};
+std::optional<std::string> textInBinary(const std::string& object) {
+  return textIn(parseInfoTexts(binaryList({std::string("\xd1\x01\x02"), "\x51k", object})));
 }
 
-TEST(PropertyList, HoldsValuesOfEachKindInBinary) {
+TEST(PropertyList, HoldsTextsInBinary) {
   using namespace std::string_literals;
-  EXPECT_EQ(std::get<std::string>(valueInBinary("\x53"s + "abc")), "abc");
-  EXPECT_EQ(std::get<std::string>(valueInBinary("\x63\x00\xfc\xd8\x3d\xdc\xee"s)), "ü📮");
-  EXPECT_EQ(std::get<std::string>(valueInBinary("\x5f\x10\x10"s + "0123456789abcdef")),
-            "0123456789abcdef");
-  EXPECT_EQ(std::get<std::int64_t>(valueInBinary("\x10\xff"s)), 255);
-  EXPECT_EQ(std::get<std::int64_t>(valueInBinary("\x13"s + std::string(8, '\xff'))), -1);
-  EXPECT_EQ(std::get<std::int64_t>(valueInBinary("\x14"s + std::string(15, '\0') + "\x07")), 7);
-  EXPECT_EQ(std::get<double>(valueInBinary("\x23\x3f\xf8\0\0\0\0\0\0"s)), 1.5);
-  EXPECT_EQ(std::get<double>(valueInBinary("\x22\x3f\xc0\0\0"s)), 1.5);
-  EXPECT_TRUE(std::get<bool>(valueInBinary("\x09")));
-  EXPECT_FALSE(std::get<bool>(valueInBinary("\x08")));
-  EXPECT_TRUE(std::holds_alternative<OtherObject>(valueInBinary("\xa1\x02")));  // holds itself
+  EXPECT_EQ(textInBinary("\x53"s + "abc"), "abc");
+  EXPECT_EQ(textInBinary("\x50"s), "");
+  EXPECT_EQ(textInBinary("\x63\x00\xfc\xd8\x3d\xdc\xee"s), "ü📮");
+  EXPECT_EQ(textInBinary("\x5f\x10\x10"s + "0123456789abcdef"), "0123456789abcdef");
+}
+
+TEST(PropertyList, SkipsWhatIsNoTextInBinary) {
+  using namespace std::string_literals;
+  for (const std::string& other :
+       {"\x10\xff"s, "\x13"s + std::string(8, '\xff'), "\x14"s + std::string(15, '\0') + "\x07",
+        "\x23\x3f\xf8\0\0\0\0\0\0"s, "\x22\x3f\xc0\0\0"s, "\x09"s, "\x08"s,
+        "\xa1\x02"s /* holds itself */}) {
+    const auto info = parseInfoTexts(
+        binaryList({"\xd2\x01\x02\x03\x04"s, "\x51k"s, "\x51n"s, other, "\x51"s + "b"}));
+    ASSERT_TRUE(info);
+    EXPECT_EQ(*info, (InfoTexts{{"n", "b"}}));
+  }
 }
 
 TEST(PropertyList, OfAnyBytesNeverEndsTheHost) {
   using namespace std::string_literals;
   std::string nested;
   for (int i = 0; i < 200'000; ++i) nested += "<array>";
-  EXPECT_EQ(parseInfoDictionary("<plist><dict><key>k</key>" + nested), std::nullopt);
+  EXPECT_EQ(parseInfoTexts("<plist><dict><key>k</key>" + nested), std::nullopt);
   std::string closed = nested;
   for (int i = 0; i < 200'000; ++i) closed += "</array>";
-  EXPECT_TRUE(parseInfoDictionary("<plist><dict><key>k</key>" + closed + "</dict></plist>"));
-  const std::optional<InfoDictionary> withNul =
-      parseInfoDictionary(binaryList({"\xd1\x01\x02", "\x53k\0k"s, "\x09"}));
+  EXPECT_TRUE(parseInfoTexts("<plist><dict><key>k</key>" + closed + "</dict></plist>"));
+  const std::optional<InfoTexts> withNul =
+      parseInfoTexts(binaryList({"\xd1\x01\x02", "\x53k\0k"s, "\x51v"}));
   ASSERT_TRUE(withNul);
   EXPECT_TRUE(withNul->contains("k\0k"s));
   const std::string good = binaryList({"\xd1\x01\x02", "\x51k", "\x09"});
-  ASSERT_TRUE(parseInfoDictionary(good));
+  ASSERT_TRUE(parseInfoTexts(good));
   for (std::size_t place = 0; place < good.size(); ++place) {
     for (int byte = 0; byte < 256; ++byte) {
       std::string bad = good;
       bad[place] = static_cast<char>(byte);
-      parseInfoDictionary(bad);
-      parseInfoDictionary(bad.substr(0, place));
+      parseInfoTexts(bad);
+      parseInfoTexts(bad.substr(0, place));
     }
   }
 }

@@ -55,8 +55,8 @@ TEST_F(SupportHelper, DoesAllInOrder) {
                 "device.systemVersion",
                 "device.screenBounds",
                 "device.preferredLanguages",
-                "mainBundle.objectForInfoDictionaryKey CFBundleShortVersionString",
-                "mainBundle.objectForInfoDictionaryKey CFBundleVersion",
+                "mainBundle.textForInfoDictionaryKey CFBundleShortVersionString",
+                "mainBundle.textForInfoDictionaryKey CFBundleVersion",
                 "composer1.setMessageBody 130 bytes, plain text",
                 "mainBundle.appStoreReceiptURL",
                 "bundles.read receipt",
@@ -75,8 +75,8 @@ TEST_F(SupportHelper, DoesAllInOrder) {
 
 TEST_F(SupportHelper, FillsTheComposer) {
   memory.mainBundle().identifier = "notesapp";
-  memory.mainBundle().info["CFBundleShortVersionString"] = std::string("2.4.1");
-  memory.mainBundle().info["CFBundleVersion"] = std::string("317");
+  memory.mainBundle().info["CFBundleShortVersionString"] = "2.4.1";
+  memory.mainBundle().info["CFBundleVersion"] = "317";
   memory.mainBundle().receiptLocation = "receipt";
   memory.bundles().files["receipt"] = {"receipt\n", ""};
   memory.device().screenSize = {375, 812};
@@ -132,14 +132,15 @@ TEST_F(SupportHelper, KeepsTheEarlierDelegateIfNoMailCanBeSent) {
 TEST_F(SupportHelper, AttachesNothingIfThereIsNoReceiptLocation) {
   contact(host);
   EXPECT_TRUE(composer(0).message().attachments.empty());
-  EXPECT_TRUE(memory.console().lines.empty());
+  EXPECT_TRUE(memory.application().printed.empty());
 }
 
 TEST_F(SupportHelper, PrintsWhyAReceiptCannotBeReadAndGoesOn) {
   memory.mainBundle().receiptLocation = "receipt";
   memory.bundles().files["receipt"] = {std::nullopt, "Is a directory"};
   contact(host);
-  EXPECT_EQ(memory.console().lines, (Lines{"error converting receipt to Data: Is a directory"}));
+  EXPECT_EQ(memory.application().printed,
+            (Lines{"error converting receipt to Data: Is a directory"}));
   EXPECT_TRUE(composer(0).message().attachments.empty());
   EXPECT_TRUE(composer(0).isOnScreen());
 }

@@ -16,13 +16,11 @@ using uikit::toUIViewController;
 class UIKitAdapter final : public Adapter {
  public:
   void useMainBundle(const MainBundle& bundle) override {
-    bundles_.writeInfo(bundle.info, bundle.identifier);
+    bundles_.writeInfo(bundle.texts, bundle.numbers, bundle.identifier);
     standin::setReceiptURL(
         bundle.namesReceiptLocation ? [NSURL fileURLWithPath:@"/nowhere/StoreKit/receipt"] : nil);
   }
-  void useSystemVersion(const OperatingSystemVersion& version) override {
-    standin::setSystemVersion(version.majorVersion, version.minorVersion, version.patchVersion);
-  }
+  void useSystemVersion(int major) override { standin::setSystemVersion(major, 9, 0); }
   void useUserInterfaceStyle(UserInterfaceStyle style) override {
     standin::setUserInterfaceStyle(static_cast<UIUserInterfaceStyle>(style));
   }

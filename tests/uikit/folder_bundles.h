@@ -35,7 +35,6 @@ class FolderBundles final : public qv_commons::Bundles {
   // The adapter's platform with these bundles in place of its own.
   qv_commons::Platform over(const qv_commons::Platform& adapter) {
     return {.bundles = *this,
-            .console = adapter.console,
             .device = adapter.device,
             .clock = adapter.clock,
             .calendar = adapter.calendar,
@@ -44,11 +43,13 @@ class FolderBundles final : public qv_commons::Bundles {
             .viewControllers = adapter.viewControllers};
   }
 
-  void writeInfo(const std::map<std::string, qv_commons::InfoDictionaryValue>& info,
+  void writeInfo(const std::map<std::string, std::string>& texts,
+                 const std::map<std::string, int>& numbers,
                  const std::optional<std::string>& identifier) const {
     using qv_commons::uikit::toNSString;
     NSMutableDictionary* entries = [NSMutableDictionary dictionary];
-    for (const auto& [key, value] : info) entries[toNSString(key)] = toObject(value);
+    for (const auto& [key, text] : texts) entries[toNSString(key)] = toNSString(text);
+    for (const auto& [key, number] : numbers) entries[toNSString(key)] = @(number);
     if (identifier) entries[@"CFBundleIdentifier"] = toNSString(*identifier);
     [entries writeToFile:[main_.path() stringByAppendingPathComponent:@"Info.plist"] atomically:NO];
   }
@@ -79,18 +80,6 @@ class FolderBundles final : public qv_commons::Bundles {
                 toPath:[library.path() stringByAppendingPathComponent:name]
                  error:nullptr];
     return library.path();
-  }
-
-  static id toObject(const qv_commons::InfoDictionaryValue& value) {
-    struct Visitor {
-      id operator()(std::monostate) const { return nil; }
-      id operator()(const std::string& text) const { return qv_commons::uikit::toNSString(text); }
-      id operator()(std::int64_t number) const { return @(number); }
-      id operator()(double number) const { return @(number); }
-      id operator()(bool flag) const { return flag ? @YES : @NO; }
-      id operator()(qv_commons::OtherObject) const { return @[]; }
-    };
-    return std::visit(Visitor(), value);
   }
 
   TemporaryFolder main_{@"Main.app"};

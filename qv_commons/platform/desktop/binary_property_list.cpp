@@ -1,7 +1,6 @@
 #include "qv_commons/platform/desktop/binary_property_list.h"
 
 #include <QString>
-#include <bit>
 #include <cstdint>
 
 namespace qv_commons::desktop {
@@ -12,34 +11,29 @@ namespace {
 constexpr std::string_view kMagic = "bplist0";
 constexpr std::size_t kTrailerSize = 32;
 
-enum Kind : std::uint8_t {
-  simple = 0,
-  integer = 1,
-  real = 2,
-  ascii = 5,
-  utf16 = 6,
-  dictionary = 13
-};
+enum Kind : std::uint8_t { integer = 1, ascii = 5, utf16 = 6, dictionary = 13 };
 
 struct Object {
   std::uint8_t kind;
-  std::uint64_t size;   // bytes, units or entries, by the kind; of numbers the exponent of two
+  std::uint64_t size;   // bytes, units or entries, by the kind
   std::uint64_t place;  // of what follows
 };
+
+bool isText(const Object& object) {
+  return object.kind == Kind::ascii || object.kind == Kind::utf16;
+}
 
 class BinaryList {
  public:
   explicit BinaryList(std::string_view bytes) : bytes_(bytes) {}
 
-  std::optional<InfoDictionary> topDictionary();
+  std::optional<InfoTexts> topDictionary();
 
  private:
   bool readTrailer();
   std::optional<std::uint64_t> number(std::uint64_t place, std::uint64_t width) const;
   std::optional<Object> object(std::uint64_t index) const;
   std::optional<std::string> text(const Object& object) const;
-  std::optional<InfoDictionaryValue> value(std::uint64_t index) const;
-  std::optional<InfoDictionaryValue> numberValue(const Object& object) const;
 
   std::string_view bytes_;
   std::uint64_t placeWidth_ = 0;
@@ -101,60 +95,32 @@ std::optional<std::string> BinaryList::text(const Object& object) const {
   return text.toStdString();
 }
 
-std::optional<InfoDictionaryValue> BinaryList::numberValue(const Object& object) const {
-  // Of a number of sixteen bytes, the lower eight.
-  if (object.size > (object.kind == Kind::integer ? 4 : 3)) return std::nullopt;
-  const std::uint64_t width = std::uint64_t{1} << object.size;
-  const std::uint64_t skipped = width > 8 ? width - 8 : 0;
-  const std::optional<std::uint64_t> bits = number(object.place + skipped, width - skipped);
-  if (!bits) return std::nullopt;
-  if (object.kind == Kind::integer) return static_cast<std::int64_t>(*bits);
-  if (width == 8) return std::bit_cast<double>(*bits);
-  if (width == 4)
-    return static_cast<double>(std::bit_cast<float>(static_cast<std::uint32_t>(*bits)));
-  return std::nullopt;
-}
-
-std::optional<InfoDictionaryValue> BinaryList::value(std::uint64_t index) const {
-  const std::optional<Object> object = this->object(index);
-  if (!object) return std::nullopt;
-  switch (object->kind) {
-    case Kind::simple:
-      if (object->size == 8 || object->size == 9) return object->size == 9;
-      return OtherObject{};
-    case Kind::integer:
-    case Kind::real:
-      return numberValue(*object);
-    case Kind::ascii:
-    case Kind::utf16:
-      return text(*object);
-    default:
-      return OtherObject{};
-  }
-}
-
-std::optional<InfoDictionary> BinaryList::topDictionary() {
+std::optional<InfoTexts> BinaryList::topDictionary() {
   if (!readTrailer()) return std::nullopt;
   const std::optional<Object> top = object(top_);
   if (!top || top->kind != Kind::dictionary) return std::nullopt;
   if (top->size > bytes_.size() / (2 * indexWidth_)) return std::nullopt;
-  InfoDictionary info;
+  InfoTexts info;
   for (std::uint64_t i = 0; i < top->size; ++i) {
     const auto keyIndex = number(top->place + i * indexWidth_, indexWidth_);
     const auto valueIndex = number(top->place + (top->size + i) * indexWidth_, indexWidth_);
     if (!keyIndex || !valueIndex) return std::nullopt;
     const std::optional<Object> keyObject = object(*keyIndex);
     const std::optional<std::string> key = keyObject ? text(*keyObject) : std::nullopt;
-    std::optional<InfoDictionaryValue> found = value(*valueIndex);
-    if (!key || !found) return std::nullopt;
-    info.insert_or_assign(*key, *std::move(found));
+    const std::optional<Object> value = object(*valueIndex);
+    if (!key || !value) return std::nullopt;
+    info.erase(*key);  // the last value of a key counts
+    if (!isText(*value)) continue;
+    std::optional<std::string> found = text(*value);
+    if (!found) return std::nullopt;
+    info.emplace(*key, *std::move(found));
   }
   return info;
 }
 
 }  // namespace
 
-std::optional<InfoDictionary> parseBinaryInfoDictionary(std::string_view bytes) {
+std::optional<InfoTexts> parseBinaryInfoTexts(std::string_view bytes) {
   return BinaryList(bytes).topDictionary();
 }
 

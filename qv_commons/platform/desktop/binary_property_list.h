@@ -5,7 +5,7 @@
 
 namespace qv_commons::desktop {
 
-// The same as parseInfoDictionary, of a binary list.
-std::optional<InfoDictionary> parseBinaryInfoDictionary(std::string_view bytes);
+// The same as parseInfoTexts, of a binary list.
+std::optional<InfoTexts> parseBinaryInfoTexts(std::string_view bytes);
 
 }  // namespace qv_commons::desktop

@@ -21,7 +21,7 @@ DesktopBundle::DesktopBundle(std::string directory, const DesktopContext& contex
     context.reportError(location + ": " + file.errorDescription);
     return;
   }
-  std::optional<InfoDictionary> info = parseInfoDictionary(*file.bytes);
+  std::optional<InfoTexts> info = parseInfoTexts(*file.bytes);
   if (!info) {
     context.reportError(location + ": not a property list with a dictionary");
     return;
@@ -29,15 +29,13 @@ DesktopBundle::DesktopBundle(std::string directory, const DesktopContext& contex
   info_ = *std::move(info);
 }
 
-InfoDictionaryValue DesktopBundle::objectForInfoDictionaryKey(std::string_view key) const {
+std::optional<std::string> DesktopBundle::textForInfoDictionaryKey(std::string_view key) const {
   const auto found = info_.find(key);
-  return found == info_.end() ? InfoDictionaryValue() : found->second;
+  return found == info_.end() ? std::nullopt : std::optional(found->second);
 }
 
 std::optional<std::string> DesktopBundle::bundleIdentifier() const {
-  const InfoDictionaryValue identifier = objectForInfoDictionaryKey("CFBundleIdentifier");
-  const auto* text = std::get_if<std::string>(&identifier);
-  return text == nullptr ? std::nullopt : std::optional(*text);
+  return textForInfoDictionaryKey("CFBundleIdentifier");
 }
 
 std::optional<FileLocation> DesktopBundle::appStoreReceiptURL() const {

@@ -23,7 +23,7 @@ class DesktopBundle final : public Bundle {
   DesktopBundle(std::string directory, const DesktopContext& context,
                 InfoPlist infoPlist = InfoPlist::expected);
 
-  InfoDictionaryValue objectForInfoDictionaryKey(std::string_view key) const override;
+  std::optional<std::string> textForInfoDictionaryKey(std::string_view key) const override;
   std::optional<std::string> bundleIdentifier() const override;
   std::optional<FileLocation> appStoreReceiptURL() const override;
   std::optional<FileLocation> URLForResource(std::string_view name,
@@ -31,7 +31,7 @@ class DesktopBundle final : public Bundle {
 
  private:
   std::string directory_;
-  InfoDictionary info_;
+  InfoTexts info_;
 };
 
 // The folders in which the library's resource bundle may be: no values, files alone.
@@ -41,7 +41,9 @@ class LibraryBundle final : public Bundle {
   explicit LibraryBundle(std::string resourceDirectory)
       : resourceDirectory_(std::move(resourceDirectory)) {}
 
-  InfoDictionaryValue objectForInfoDictionaryKey(std::string_view) const override { return {}; }
+  std::optional<std::string> textForInfoDictionaryKey(std::string_view) const override {
+    return std::nullopt;
+  }
   std::optional<std::string> bundleIdentifier() const override { return std::nullopt; }
   std::optional<FileLocation> appStoreReceiptURL() const override { return std::nullopt; }
   std::optional<FileLocation> URLForResource(std::string_view name,

@@ -23,7 +23,6 @@ struct DesktopPlatform::Parts {
 
   SharedContext context;
   DesktopBundles bundles{*context};
-  DesktopConsole console;
   DesktopDevice device{context->look, context->settings.systemVersion,
                        context->settings.userInterfaceStyle};
   DesktopClock clock;
@@ -34,7 +33,6 @@ struct DesktopPlatform::Parts {
   DesktopApplication application;
   DesktopViewControllers viewControllers{context, {calendar, application}};
   Platform platform{.bundles = bundles,
-                    .console = console,
                     .device = device,
                     .clock = clock,
                     .calendar = calendar,

@@ -57,8 +57,8 @@ struct DesktopSettings {
   // The sender's address. Empty: the user's login name at the host's name.
   std::string senderAddress = {};
 
-  // The version that the library takes the system for; its thresholds are those of iOS.
-  OperatingSystemVersion systemVersion = {17, 0, 0};
+  // The major version that the library takes the system for; its thresholds are those of iOS.
+  int systemVersion = 17;
 
   // By which dates of birth are picked and judged.
   CalendarSettings calendar = {};

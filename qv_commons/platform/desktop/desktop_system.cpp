@@ -23,7 +23,7 @@ double pointsOf(int rounded, double scale) {
   return std::abs(points - rounded) <= kRounding ? points : rounded;
 }
 
-void DesktopConsole::print(std::string_view line) {
+void DesktopApplication::print(std::string_view line) {
   std::fwrite(line.data(), 1, line.size(), stdout);
   std::fputc('\n', stdout);
   std::fflush(stdout);

@@ -1,10 +1,9 @@
-// What the desktop says of itself: device and clock; and the two small ways out, console and
+// What the desktop says of itself: device and clock; and the two small ways out, by the
 // application.
 #pragma once
 
 #include "qv_commons/platform/application.h"
 #include "qv_commons/platform/clock.h"
-#include "qv_commons/platform/console.h"
 #include "qv_commons/platform/desktop/desktop_look.h"
 #include "qv_commons/platform/device.h"
 
@@ -15,18 +14,11 @@ namespace qv_commons::desktop {
 // even one is taken, as monitors have.
 double pointsOf(int rounded, double scale);
 
-// Prints to the standard output stream.
-class DesktopConsole final : public Console {
- public:
-  void print(std::string_view line) override;
-};
-
 class DesktopDevice final : public Device {
  public:
-  // The version that the library takes the system for, and the look that was set.
-  DesktopDevice(const DesktopLook& look, const OperatingSystemVersion& version,
-                UserInterfaceStyle style)
-      : look_(look), version_(version), style_(style) {}
+  // The major version that the library takes the system for, and the look that was set.
+  DesktopDevice(const DesktopLook& look, int majorVersion, UserInterfaceStyle style)
+      : look_(look), majorVersion_(majorVersion), style_(style) {}
 
   // The distribution and the kind of machine, for example "Debian PC".
   std::string localizedModel() const override;
@@ -34,9 +26,7 @@ class DesktopDevice final : public Device {
   // The distribution's version, for example "12"; the kernel's if it has none.
   std::string systemVersion() const override;
 
-  bool isOperatingSystemAtLeastVersion(const OperatingSystemVersion& asked) const override {
-    return version_ >= asked;
-  }
+  bool isSystemVersionAtLeast(int major) const override { return majorVersion_ >= major; }
 
   // From LANGUAGE, else LC_ALL, LC_MESSAGES or LANG; empty if they name no language.
   std::vector<std::string> preferredLanguages() const override;
@@ -47,7 +37,7 @@ class DesktopDevice final : public Device {
 
  private:
   const DesktopLook& look_;
-  OperatingSystemVersion version_;
+  int majorVersion_;
   UserInterfaceStyle style_;
 };
 
@@ -58,6 +48,8 @@ class DesktopClock final : public Clock {
 
 class DesktopApplication final : public Application {
  public:
+  void print(std::string_view line) override;  // to the standard output stream
+
   // The link reaches the desktop to the byte.
   void openURL(const URL& url) override;
 };

@@ -1,7 +1,7 @@
-// Property lists, XML or binary, as far as an Info.plist is asked: the values of its top level.
+// Property lists, XML or binary, as far as an Info.plist is asked: the texts of its top level.
 //
-// What lies deeper is skipped, not read, so no list can be too deep; and every length and place
-// that a binary list names is checked before it is used.
+// Other values and what lies deeper are skipped, not read, so no list can be too deep; and every
+// length and place that a binary list names is checked before it is used.
 #pragma once
 
 #include <map>
@@ -9,14 +9,12 @@
 #include <string>
 #include <string_view>
 
-#include "qv_commons/platform/bundle.h"
-
 namespace qv_commons::desktop {
 
-using InfoDictionary = std::map<std::string, InfoDictionaryValue, std::less<>>;
+using InfoTexts = std::map<std::string, std::string, std::less<>>;  // by key
 
 // std::nullopt if the bytes are no property list, or hold anything but a dictionary. Any bytes, any
 // thread.
-std::optional<InfoDictionary> parseInfoDictionary(std::string_view bytes);
+std::optional<InfoTexts> parseInfoTexts(std::string_view bytes);
 
 }  // namespace qv_commons::desktop

@@ -1,13 +1,15 @@
 #include "qv_commons/platform/memory/memory_host.h"
 
+#include <charconv>
+
 #include "qv_commons/support/url.h"
 
 namespace qv_commons::memory {
 
-InfoDictionaryValue MemoryBundle::objectForInfoDictionaryKey(std::string_view key) const {
-  record_.add(name_, ".objectForInfoDictionaryKey ", key);
+std::optional<std::string> MemoryBundle::textForInfoDictionaryKey(std::string_view key) const {
+  record_.add(name_, ".textForInfoDictionaryKey ", key);
   const auto found = info.find(key);
-  return found == info.end() ? InfoDictionaryValue() : found->second;
+  return found == info.end() ? std::nullopt : std::optional(found->second);
 }
 
 std::optional<std::string> MemoryBundle::bundleIdentifier() const {
@@ -51,11 +53,6 @@ FileContents MemoryBundles::read(const FileLocation& location) const {
   return found == files.end() ? FileContents{std::nullopt, "no such file"} : found->second;
 }
 
-void MemoryConsole::print(std::string_view line) {
-  record_.add("console.print ", inQuotes(line));
-  lines.emplace_back(line);
-}
-
 std::string MemoryDevice::localizedModel() const {
   record_.add("device.localizedModel");
   return model;
@@ -63,16 +60,14 @@ std::string MemoryDevice::localizedModel() const {
 
 std::string MemoryDevice::systemVersion() const {
   record_.add("device.systemVersion");
-  std::string text = std::to_string(version.majorVersion);
-  text.append(".").append(std::to_string(version.minorVersion));
-  if (version.patchVersion != 0) text.append(".").append(std::to_string(version.patchVersion));
-  return text;
+  return version;
 }
 
-bool MemoryDevice::isOperatingSystemAtLeastVersion(const OperatingSystemVersion& asked) const {
-  record_.add("device.isAtLeast ", std::to_string(asked.majorVersion), ".",
-              std::to_string(asked.minorVersion), ".", std::to_string(asked.patchVersion));
-  return version >= asked;
+bool MemoryDevice::isSystemVersionAtLeast(int major) const {
+  record_.add("device.isSystemVersionAtLeast ", std::to_string(major));
+  int own = 0;
+  std::from_chars(version.data(), version.data() + version.size(), own);
+  return own >= major;
 }
 
 std::vector<std::string> MemoryDevice::preferredLanguages() const {
@@ -93,6 +88,11 @@ UserInterfaceStyle MemoryDevice::userInterfaceStyle() const {
 Instant MemoryClock::now() const {
   record_.add("clock.now");
   return time;
+}
+
+void MemoryApplication::print(std::string_view line) {
+  record_.add("application.print ", inQuotes(line));
+  printed.emplace_back(line);
 }
 
 void MemoryApplication::openURL(const URL& url) {

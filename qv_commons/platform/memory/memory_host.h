@@ -1,7 +1,7 @@
 // What the memory adapter answers for the host app and its device: plain values to set.
 //
 //     qv_commons::memory::MemoryPlatform platform;
-//     platform.mainBundle().info["CFBundleDisplayName"] = std::string("Notes");
+//     platform.mainBundle().info["CFBundleDisplayName"] = "Notes";
 //     platform.device().model = "iPad";
 #pragma once
 
@@ -15,7 +15,6 @@
 #include "qv_commons/platform/application.h"
 #include "qv_commons/platform/bundle.h"
 #include "qv_commons/platform/clock.h"
-#include "qv_commons/platform/console.h"
 #include "qv_commons/platform/device.h"
 #include "qv_commons/platform/memory/memory_layout.h"
 #include "qv_commons/platform/memory/record.h"
@@ -29,13 +28,13 @@ class QV_COMMONS_EXPORT MemoryBundle final : public Bundle {
 
   const std::string& name() const { return name_; }
 
-  std::map<std::string, InfoDictionaryValue, std::less<>> info;
+  std::map<std::string, std::string, std::less<>> info;  // its texts
   std::optional<std::string> identifier;
   std::optional<FileLocation> receiptLocation;
   std::map<std::string, FileLocation, std::less<>> resources;  // by name and extension: "a.json"
   std::map<std::string, MemoryLayout, std::less<>> layouts;    // by name
 
-  InfoDictionaryValue objectForInfoDictionaryKey(std::string_view key) const override;
+  std::optional<std::string> textForInfoDictionaryKey(std::string_view key) const override;
   std::optional<std::string> bundleIdentifier() const override;
   std::optional<FileLocation> appStoreReceiptURL() const override;
   std::optional<FileLocation> URLForResource(std::string_view name,
@@ -74,23 +73,11 @@ class QV_COMMONS_EXPORT MemoryBundles final : public Bundles {
   std::shared_ptr<MemoryBundle> resources_;
 };
 
-class QV_COMMONS_EXPORT MemoryConsole final : public Console {
- public:
-  explicit MemoryConsole(Record& record) : record_(record) {}
-
-  std::vector<std::string> lines;
-
-  void print(std::string_view line) override;
-
- private:
-  Record& record_;
-};
-
 class QV_COMMONS_EXPORT MemoryDevice final : public Device {
  public:
   explicit MemoryDevice(Record& record) : record_(record) {}
 
-  OperatingSystemVersion version = {14, 4, 0};  // read as "14.4"; {13, 1, 2} as "13.1.2"
+  std::string version = "14.4";  // begins with the major version's number
   std::string model = "iPhone";
   std::vector<std::string> languages = {"en-US"};
   Size screenSize = {375, 667};
@@ -98,7 +85,7 @@ class QV_COMMONS_EXPORT MemoryDevice final : public Device {
 
   std::string localizedModel() const override;
   std::string systemVersion() const override;
-  bool isOperatingSystemAtLeastVersion(const OperatingSystemVersion& asked) const override;
+  bool isSystemVersionAtLeast(int major) const override;
   std::vector<std::string> preferredLanguages() const override;
   Size screenBounds() const override;
   UserInterfaceStyle userInterfaceStyle() const override;
@@ -123,8 +110,10 @@ class QV_COMMONS_EXPORT MemoryApplication final : public Application {
  public:
   explicit MemoryApplication(Record& record) : record_(record) {}
 
-  std::vector<std::string> opened;  // the links' texts, oldest first
+  std::vector<std::string> printed;  // the lines, oldest first
+  std::vector<std::string> opened;   // the links' texts, likewise
 
+  void print(std::string_view line) override;
   void openURL(const URL& url) override;
 
  private:

@@ -6,7 +6,6 @@ namespace qv_commons::memory {
 
 MemoryPlatform::MemoryPlatform()
     : platform_{.bundles = bundles_,
-                .console = console_,
                 .device = device_,
                 .clock = clock_,
                 .calendar = calendar_,

@@ -48,7 +48,6 @@ class QV_COMMONS_EXPORT MemoryPlatform {
   MemoryBundles& bundles() { return bundles_; }
   MemoryBundle& mainBundle() { return bundles_.main(); }
   MemoryBundle& resourceBundle() { return bundles_.resources(); }  // the library's
-  MemoryConsole& console() { return console_; }
   MemoryDevice& device() { return device_; }
   MemoryClock& clock() { return clock_; }
   MemoryCalendar& calendar() { return calendar_; }
@@ -64,7 +63,6 @@ class QV_COMMONS_EXPORT MemoryPlatform {
   Record record_;
   Transitions transitions_;
   MemoryBundles bundles_{record_};
-  MemoryConsole console_{record_};
   MemoryDevice device_{record_};
   MemoryClock clock_{record_};
   MemoryCalendar calendar_{record_};

@@ -13,7 +13,7 @@ class UIKitBundle final : public Bundle {
 
   NSBundle* nsBundle() const { return bundle_; }
 
-  InfoDictionaryValue objectForInfoDictionaryKey(std::string_view key) const override;
+  std::optional<std::string> textForInfoDictionaryKey(std::string_view key) const override;
   std::optional<std::string> bundleIdentifier() const override;
   std::optional<FileLocation> appStoreReceiptURL() const override;
   std::optional<FileLocation> URLForResource(std::string_view name,

@@ -14,22 +14,11 @@ NSURL* toNSURL(const FileLocation& location) {
   return [NSURL URLWithString:toNSString(location)];
 }
 
-// A boolean number is told by its class: its type code is that of a small integer.
-InfoDictionaryValue toValue(NSNumber* number) {
-  if ([number isKindOfClass:[@YES class]]) return static_cast<bool>(number.boolValue);
-  const char type = number.objCType[0];
-  if (type == *@encode(double) || type == *@encode(float)) return number.doubleValue;
-  return static_cast<std::int64_t>(number.longLongValue);
-}
-
 }  // namespace
 
-InfoDictionaryValue UIKitBundle::objectForInfoDictionaryKey(std::string_view key) const {
+std::optional<std::string> UIKitBundle::textForInfoDictionaryKey(std::string_view key) const {
   id value = [bundle_ objectForInfoDictionaryKey:toNSString(key)];
-  if (value == nil) return std::monostate();
-  if ([value isKindOfClass:[NSString class]]) return toString(value);
-  if ([value isKindOfClass:[NSNumber class]]) return toValue(static_cast<NSNumber*>(value));
-  return OtherObject();
+  return [value isKindOfClass:[NSString class]] ? toOptionalString(value) : std::nullopt;
 }
 
 std::optional<std::string> UIKitBundle::bundleIdentifier() const {

@@ -10,7 +10,6 @@ namespace {
 
 struct UIKitPlatform {
   UIKitBundles bundles;
-  UIKitConsole console;
   UIKitDevice device;
   UIKitClock clock;
   UIKitCalendar calendar;
@@ -19,7 +18,6 @@ struct UIKitPlatform {
   UIKitViewControllers viewControllers;
   const Platform references = {
       .bundles = bundles,
-      .console = console,
       .device = device,
       .clock = clock,
       .calendar = calendar,

@@ -4,7 +4,6 @@
 #include "qv_commons/platform/application.h"
 #include "qv_commons/platform/calendar.h"
 #include "qv_commons/platform/clock.h"
-#include "qv_commons/platform/console.h"
 #include "qv_commons/platform/device.h"
 #include "qv_commons/platform/user_defaults.h"
 
@@ -14,7 +13,7 @@ class UIKitDevice final : public Device {
  public:
   std::string localizedModel() const override;
   std::string systemVersion() const override;
-  bool isOperatingSystemAtLeastVersion(const OperatingSystemVersion& version) const override;
+  bool isSystemVersionAtLeast(int major) const override;
   std::vector<std::string> preferredLanguages() const override;
   Size screenBounds() const override;
   UserInterfaceStyle userInterfaceStyle() const override;
@@ -24,12 +23,6 @@ class UIKitDevice final : public Device {
 class UIKitClock final : public Clock {
  public:
   Instant now() const override;
-};
-
-// The standard output, as the platform's own print statement.
-class UIKitConsole final : public Console {
- public:
-  void print(std::string_view line) override;
 };
 
 // The current NSCalendar.
@@ -49,6 +42,7 @@ class UIKitUserDefaults final : public UserDefaults {
 
 class UIKitApplication final : public Application {
  public:
+  void print(std::string_view line) override;  // as the platform's own print statement
   void openURL(const URL& url) override;
 };
 

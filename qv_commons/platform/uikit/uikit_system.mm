@@ -45,17 +45,15 @@ UserInterfaceStyle UIKitDevice::userInterfaceStyle() const {
   return UserInterfaceStyle::unspecified;
 }
 
-bool UIKitDevice::isOperatingSystemAtLeastVersion(const OperatingSystemVersion& version) const {
-  const NSOperatingSystemVersion asked = {version.majorVersion, version.minorVersion,
-                                          version.patchVersion};
-  return [NSProcessInfo.processInfo isOperatingSystemAtLeastVersion:asked];
+bool UIKitDevice::isSystemVersionAtLeast(int major) const {
+  return [NSProcessInfo.processInfo isOperatingSystemAtLeastVersion:{major, 0, 0}];
 }
 
 Instant UIKitClock::now() const {
   return instantAt([NSDate date].timeIntervalSince1970);
 }
 
-void UIKitConsole::print(std::string_view line) {
+void UIKitApplication::print(std::string_view line) {
   std::fwrite(line.data(), 1, line.size(), stdout);
   std::fputc('\n', stdout);
   std::fflush(stdout);
@@ -98,9 +96,10 @@ void UIKitApplication::openURL(const URL& url) {
 
 #ifndef __APPLE__
 bool systemIsAtLeast(const char* version) {
-  OperatingSystemVersion asked;
-  std::sscanf(version, "%d.%d", &asked.majorVersion, &asked.minorVersion);
-  return UIKitDevice().isOperatingSystemAtLeastVersion(asked);
+  int major = 0;
+  int minor = 0;
+  std::sscanf(version, "%d.%d", &major, &minor);
+  return [NSProcessInfo.processInfo isOperatingSystemAtLeastVersion:{major, minor, 0}];
 }
 #endif
 

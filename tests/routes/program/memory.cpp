@@ -6,7 +6,7 @@
 int main() {
   qv_commons::memory::MemoryPlatform memory;
   qv_commons::ScopedPlatform scope(memory.platform());
-  memory.mainBundle().info["CFBundleShortVersionString"] = std::string("2.4.1");
-  memory.mainBundle().info["CFBundleVersion"] = std::string("317");
+  memory.mainBundle().info["CFBundleShortVersionString"] = "2.4.1";
+  memory.mainBundle().info["CFBundleVersion"] = "317";
   std::cout << qv_commons::QV_AppInfoHelper::appVersion() << "\n";
 }
