@@ -19,6 +19,7 @@
 
 #include "qv_commons/age_gate/age_gate_helper.h"
 #include "qv_commons/platform/desktop/desktop_platform.h"
+#include "qv_commons/platform/desktop/sheet.h"
 #include "qv_commons/platform/desktop/sqlite_user_defaults.h"
 #include "qv_commons/support/support_helper.h"
 
@@ -62,7 +63,7 @@ inline DesktopSettings settingsIn(const QTemporaryDir& folder) {
   return settings;
 }
 
-// The app's own window, which its screens come up over, and how often another one was painted.
+// The app's own window, and how often a screen in it or another window was painted.
 class Window final : public QWidget {
  public:
   Window() {
@@ -77,7 +78,8 @@ class Window final : public QWidget {
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() != QEvent::Paint || watched == this) return false;
     const auto* widget = qobject_cast<QWidget*>(watched);
-    if (widget != nullptr && widget->isWindow()) ++paintings;
+    const bool isScreen = qobject_cast<const desktop::Sheet*>(watched) != nullptr;
+    if (widget != nullptr && (isScreen || widget->isWindow())) ++paintings;
     return false;
   }
 };

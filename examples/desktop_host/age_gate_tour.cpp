@@ -5,6 +5,7 @@
 #include <QTimeZone>
 #include <algorithm>
 
+#include "qv_commons/platform/desktop/sheet.h"
 #include "qv_commons/platform/desktop/wheel.h"
 #include "qv_commons/platform/desktop/wheel_date_picker.h"
 
@@ -47,9 +48,9 @@ void tourLife(Stage& stage, const Options& options, const QString& data, const Q
 }
 
 // The library's screen on top, known by a view that it has; null where it isn't there.
-QWidget* screenWith(const char* view) {
-  QWidget* window = QApplication::activeModalWidget();
-  return window != nullptr && window->findChild<QWidget*>(view) != nullptr ? window : nullptr;
+QWidget* screenWith(const QWidget& window, const char* view) {
+  Sheet* top = Sheet::topOf(window);
+  return top != nullptr && top->findChild<QWidget*>(view) != nullptr ? top : nullptr;
 }
 
 // As a user of the wheels would: the year first, since it may shorten the month. A date that is out
@@ -77,7 +78,7 @@ void confirm(Stage& stage, Session& session, QWidget& gate, const Options& optio
   stage.picture("age-gate-picked" + suffix, gate);
   stage.click(gate, "confirmBtn");
   stage.waitFor("the judgement", [&] {
-    return session.ageGateCompletions() > 0 || screenWith("contact") != nullptr;
+    return session.ageGateCompletions() > 0 || screenWith(session.window(), "contact") != nullptr;
   });
 }
 
@@ -108,17 +109,18 @@ void playAgeGateStart(Stage& stage, const Options& options, const DesktopSetting
   session.window().show();
   stage.click(session.window(), "start");
   stage.waitFor("an answer", [&] {
-    return session.ageGateCompletions() > 0 || screenWith("confirmBtn") != nullptr ||
-           screenWith("contact") != nullptr;
+    return session.ageGateCompletions() > 0 ||
+           screenWith(session.window(), "confirmBtn") != nullptr ||
+           screenWith(session.window(), "contact") != nullptr;
   });
-  if (QWidget* gate = screenWith("confirmBtn")) {
+  if (QWidget* gate = screenWith(session.window(), "confirmBtn")) {
     stage.picture("age-gate" + suffix, *gate);
     if (options.scene == "confirm") confirm(stage, session, *gate, options);
   }
   if (session.ageGateCompletions() > 0) {
     stage.picture("allowed" + suffix, session.window());
     stage.note("age gate: allowed");
-  } else if (QWidget* refusal = screenWith("contact")) {
+  } else if (QWidget* refusal = screenWith(session.window(), "contact")) {
     stage.picture((options.scene == "confirm" ? "refused" : "refused-again") + suffix, *refusal);
     stage.note("age gate: refused");
   } else {

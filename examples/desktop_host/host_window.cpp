@@ -1,7 +1,11 @@
 #include "examples/desktop_host/host_window.h"
 
 #include <QAccessible>
+#include <QApplication>
+#include <QFontInfo>
+#include <QRegularExpression>
 #include <QScrollArea>
+#include <algorithm>
 #include <utility>
 
 namespace host {
@@ -11,6 +15,21 @@ constexpr QSize kPhone(390, 844);
 constexpr QSize kSmallestPhone(320, 568);
 constexpr int kMargin = 20;
 constexpr int kRowPadding = 16;
+
+// The style with its texts enlarged as the user has it: 15 pixels are the usual size.
+QString scaled(const QString& style) {
+  const double scale = std::max(1.0, QFontInfo(QApplication::font()).pixelSize() / 15.0);
+  static const QRegularExpression size("font-size: (\\d+)px");
+  QString result;
+  qsizetype end = 0;
+  for (auto found = size.globalMatch(style); found.hasNext();) {
+    const QRegularExpressionMatch match = found.next();
+    result += style.mid(end, match.capturedStart(1) - end);
+    result += QString::number(qRound(match.captured(1).toInt() * scale));
+    end = match.capturedEnd(1);
+  }
+  return result + style.mid(end);
+}
 
 // `content` in a column that scrolls where it is too tall.
 QScrollArea* scrolling(QWidget* content) {
@@ -148,7 +167,7 @@ void HostWindow::say(const QString& text) {
 }
 
 void HostWindow::dress(bool dark) {
-  const QString style = R"(
+  const QString style = scaled(R"(
     #host, QScrollArea, QStackedWidget, QTabWidget, *[role="page"] { background: %1; }
     QLabel { color: %2; font-family: Inter; font-size: 15px; background: transparent; }
     QLabel[role="title"] { font-size: 30px; font-weight: 700; }
@@ -168,7 +187,10 @@ void HostWindow::dress(bool dark) {
     QTabWidget::tab-bar { left: 20px; top: 16px; }
     QTabBar::tab { font-family: Inter; font-size: 15px; color: %2; background: %1; padding: 10px 16px;
       border-bottom: 2px solid transparent; }
-    QTabBar::tab:selected { color: %6; border-bottom: 2px solid %6; })";
+    QTabBar::tab:selected { color: %6; border-bottom: 2px solid %6; }
+    QScrollBar:vertical { background: transparent; width: 8px; margin: 0; }
+    QScrollBar::handle:vertical { background: %3; border-radius: 4px; min-height: 32px; }
+    QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; })");
   setAttribute(Qt::WA_StyledBackground);
   setStyleSheet(dark ? style.arg("#111113", "#f5f5f7", "#a1a1a8", "#1e1e21", "#303035", "#6aa6ff")
                      : style.arg("#f4f4f6", "#1a1a1c", "#65656b", "#ffffff", "#e3e3e8", "#0b57d0"));

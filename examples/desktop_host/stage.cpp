@@ -5,8 +5,12 @@
 #include <QElapsedTimer>
 #include <cstdio>
 
+#include "qv_commons/platform/desktop/sheet.h"
+
 namespace host {
 namespace {
+
+using qv_commons::desktop::Sheet;
 
 constexpr int kPatienceMs = 20000;
 constexpr int kSettleMs = 60;
@@ -59,16 +63,16 @@ void Stage::picture(const QString& name, QWidget& widget) {
 
 void Stage::pictureAtOnce(const QString& name, QWidget& widget) {
   const QString file = name + ".png";
-  if (widget.grab().save(path(file))) {
+  if (widget.window()->grab().save(path(file))) {
     note("picture: " + file);
   } else {
     fail("could not be written: " + path(file));
   }
 }
 
-QWidget* Stage::waitForModalWindow(const QString& what) {
-  waitFor(what, [] { return QApplication::activeModalWidget() != nullptr; });
-  return QApplication::activeModalWidget();
+QWidget* Stage::waitForSheet(const QString& what, const QWidget& window) {
+  waitFor(what, [&] { return Sheet::topOf(window) != nullptr; });
+  return Sheet::topOf(window);
 }
 
 void Stage::click(QWidget& window, const QString& buttonName) {
@@ -77,6 +81,7 @@ void Stage::click(QWidget& window, const QString& buttonName) {
   const QString text = button->text().isEmpty() ? button->accessibleName() : button->text();
   note("click: " + QString(text).remove('&'));
   button->click();
+  letEventsRun(0);  // in which the click is answered
 }
 
 void Stage::fail(const QString& why) {

@@ -32,7 +32,7 @@ class Stage final {
 
   // The window that is on top of all others by modality, once there is one; null where none came
   // up.
-  QWidget* waitForModalWindow(const QString& what);
+  QWidget* waitForSheet(const QString& what, const QWidget& window);
 
   // Clicks the button of that object name in `window`.
   void click(QWidget& window, const QString& buttonName);

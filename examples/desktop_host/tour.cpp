@@ -5,6 +5,8 @@
 #include <QFile>
 #include <utility>
 
+#include "qv_commons/platform/desktop/sheet.h"
+
 #include "examples/desktop_host/age_gate_tour.h"
 #include "examples/desktop_host/mail_sink.h"
 #include "examples/desktop_host/session.h"
@@ -14,12 +16,13 @@ namespace host {
 namespace {
 
 using qv_commons::desktop::DesktopSettings;
+using qv_commons::desktop::Sheet;
 
 constexpr std::int64_t kMinimumAge = 16;
 
 QWidget* openComposer(Stage& stage, Session& session) {
   stage.click(session.window(), "contactSupport");
-  return stage.waitForModalWindow("the composer");
+  return stage.waitForSheet("the composer", session.window());
 }
 
 void sendMessage(Stage& stage, DesktopSettings settings) {
@@ -54,6 +57,10 @@ void saveDraftAfterFailure(Stage& stage, DesktopSettings settings) {
   stage.waitFor("Send is offered again", [&] { return send->isEnabled(); });
   stage.picture("composer-failed", *composer);
   stage.click(*composer, "save");
+  auto* done = composer->findChild<QAbstractButton*>("cancel");
+  stage.waitFor("it is saved", [&] { return done->text() == "Done"; });
+  stage.picture("composer-saved", *composer);
+  stage.click(*composer, "cancel");
   stage.waitFor("the host is told", [&] { return session.supportCompletions() == 1; });
   stage.note("the host is told that the composer is gone");
 }
@@ -64,11 +71,11 @@ void showAlertWithoutMail(Stage& stage, DesktopSettings settings) {
   Session session(std::move(settings), Device::playedPhone, kMinimumAge);
   session.window().show();
   stage.click(session.window(), "contactSupport");
-  QWidget* alert = stage.waitForModalWindow("the alert");
+  QWidget* alert = stage.waitForSheet("the alert", session.window());
   if (alert == nullptr) return;
   stage.picture("alert", *alert);
   stage.click(*alert, "action0");
-  stage.waitFor("the alert is gone", [] { return QApplication::activeModalWidget() == nullptr; });
+  stage.waitFor("the alert is gone", [&] { return Sheet::topOf(session.window()) == nullptr; });
   if (session.supportCompletions() != 0) stage.fail("the host was told");
 }
 
@@ -97,11 +104,11 @@ void visitPages(Stage& stage, DesktopSettings settings) {
             [&](QWidget& page) { stage.note(page.findChild<QLabel*>("reading")->text()); });
   visitPage(stage, session, "topController", [&](QWidget& page) {
     stage.click(*page.findChild<QWidget*>("First"), "showAlert");
-    if (QWidget* alert = stage.waitForModalWindow("the alert")) {
+    if (QWidget* alert = stage.waitForSheet("the alert", session.window())) {
       stage.picture("page-topController-alert", *alert);
       stage.note(session.window().findChild<QLabel*>("status")->text());
       stage.click(*alert, "action0");
-      stage.waitFor("the alert is gone", [] { return !QApplication::activeModalWidget(); });
+      stage.waitFor("the alert is gone", [&] { return Sheet::topOf(session.window()) == nullptr; });
     }
   });
   visitPage(stage, session, "search", [&](QWidget& page) {

@@ -134,9 +134,11 @@ class DesktopAdapter final : public Adapter {
     return shown;
   }
   void finish(MailComposer& composer, MailComposeResult how) override {
-    desktop::click(composer, how == MailComposeResult::sent    ? "send"
-                             : how == MailComposeResult::saved ? "save"
-                                                               : "cancel");
+    if (how == MailComposeResult::saved) {
+      desktop::saveDraft(composer);
+    } else {
+      desktop::click(composer, how == MailComposeResult::sent ? "send" : "cancel");
+    }
     EXPECT_TRUE(desktop::waitUntil([&] { return !desktop::isOnScreen(composer); }));
   }
 

@@ -19,6 +19,7 @@ qv_add_screen_test(age_gate_test
           age_gate_layout_test.cpp
           age_gate_pictures_test.cpp
           age_gate_screen_test.cpp
+          many_screens_test.cpp
           painting_test.cpp
           resource_search_test.cpp)
 target_compile_definitions(age_gate_test

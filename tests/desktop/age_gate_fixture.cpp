@@ -10,6 +10,7 @@
 #include <stdexcept>
 
 #include "qv_commons/age_gate/age_gate_helper.h"
+#include "qv_commons/platform/desktop/sheet.h"
 
 namespace qv_commons::desktop {
 
@@ -66,6 +67,7 @@ void AgeGateTest::restart(DesktopSettings settings) {
   window_ = std::make_unique<QWidget>();
   window_->resize(size_);
   window_->show();
+  window_->activateWindow();  // where there is no window manager that does it
   desktop_ = std::make_unique<DesktopPlatform>(std::move(settings));
   const Platform& real = desktop_->platform();
   platform_ = std::make_unique<Platform>(Platform{.bundles = real.bundles,
@@ -83,18 +85,19 @@ void AgeGateTest::restart(DesktopSettings settings) {
 void AgeGateTest::startAgeGate(std::int64_t minimumAge) {
   QV_AgeGateHelper::startAgeGateProcess(
       host_, minimumAge, [this] { ++completions_; },
-      [this](ViewController& screen) { contacts_.push_back(&screen); }, theme_, privacyLink_,
-      termsLink_);
+      [this](ViewController& screen) {
+        contacts_.push_back(&screen);
+        if (onContact_) onContact_(screen);
+      },
+      theme_, privacyLink_, termsLink_);
   QTest::qWait(1);
-  // Where there is no window manager, the keyboard comes to a new window a moment later.
-  if (QWidget* shown = QApplication::activeModalWidget()) {
-    EXPECT_TRUE(QTest::qWaitForWindowActive(shown));
-  }
+  EXPECT_TRUE(QTest::qWaitForWindowActive(window_.get()));
 }
 
 QWidget* AgeGateTest::screenWith(const char* view) {
   for (QWidget* window : QApplication::topLevelWidgets()) {
-    if (window->isVisible() && window->findChild<QWidget*>(view) != nullptr) return window;
+    Sheet* top = Sheet::topOf(*window);
+    if (top != nullptr && top->isVisible() && top->findChild<QWidget*>(view) != nullptr) return top;
   }
   return nullptr;
 }
@@ -108,21 +111,24 @@ Wheel& AgeGateTest::wheel(QWidget& gate, DateField field) {
 
 void AgeGateTest::click(QWidget& widget, QPoint place) {
   QWidget* window = widget.window();
-  auto* scroll = window->findChild<QScrollArea*>("scroll");
-  const QPoint inContent = widget.mapTo(scroll->widget(), place);
-  scroll->ensureVisible(inContent.x(), inContent.y());
+  for (QWidget* above = widget.parentWidget(); above != nullptr; above = above->parentWidget()) {
+    auto* scroll = qobject_cast<QScrollArea*>(above);
+    if (scroll == nullptr || scroll->widget() == nullptr) continue;
+    const QPoint inContent = widget.mapTo(scroll->widget(), place);
+    scroll->ensureVisible(inContent.x(), inContent.y());
+  }
   QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, widget.mapTo(window, place));
   QTest::qWait(1);
 }
 
 void AgeGateTest::press(QWidget& screen, int key, Qt::KeyboardModifiers modifiers) {
-  QTest::keyClick(screen.windowHandle(), static_cast<Qt::Key>(key), modifiers);
+  QTest::keyClick(screen.window()->windowHandle(), static_cast<Qt::Key>(key), modifiers);
   QTest::qWait(1);
 }
 
 void AgeGateTest::type(QWidget& screen, const char* text) {
   for (const char* character = text; *character != '\0'; ++character) {
-    QTest::keyClick(screen.windowHandle(), *character);
+    QTest::keyClick(screen.window()->windowHandle(), *character);
   }
   QTest::qWait(1);
 }

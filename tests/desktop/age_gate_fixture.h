@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 #include <QUrl>
 #include <QWidget>
+#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 #include <optional>
@@ -55,7 +56,7 @@ class AgeGateTest : public testing::Test {
 
   void startAgeGate(std::int64_t minimumAge = 16);
 
-  // The window on top, if it is one of the library's screens: it has a view of that name.
+  // The sheet on top, if it is one of the library's screens: it has a view of that name.
   static QWidget* screenWith(const char* view);
   static QWidget* gate() { return screenWith("confirmBtn"); }
   static QWidget* refusal() { return screenWith("contact"); }
@@ -92,6 +93,7 @@ class AgeGateTest : public testing::Test {
   std::string termsLink_ = "https://example.com/terms";
   int completions_ = 0;
   std::vector<ViewController*> contacts_;
+  std::function<void(ViewController&)> onContact_;
   std::vector<std::string> errors_;
 
  private:

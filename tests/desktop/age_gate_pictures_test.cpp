@@ -32,14 +32,17 @@ class AgeGatePictures : public AgeGateTest, public testing::WithParamInterface<P
     pinned.userInterfaceStyle = GetParam().style;
     pinned.calendar = {GetParam().locale, "UTC"};
     restart(pinned);
+    // Which is the host's and ends at the sheet.
+    window_->setStyleSheet(
+        "QWidget QWidget { color: red; font-size: 40px; padding: 9px; border: 3px solid red }");
   }
   ~AgeGatePictures() override { QApplication::setLayoutDirection(Qt::LeftToRight); }
 
-  static void expectPicture(const std::string& screen, QWidget& window) {
-    const QString name = QString::fromStdString(screen) + "-" + GetParam().name +
+  static void expectPicture(const std::string& kind, QWidget& screen) {
+    const QString name = QString::fromStdString(kind) + "-" + GetParam().name +
                          (textScale() > 1 ? "-large" : "") + ".png";
     const QString path = QDir(QV_COMMONS_PICTURES).filePath(name);
-    const QImage drawn = window.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    const QImage drawn = screen.window()->grab().toImage().convertToFormat(QImage::Format_RGB32);
     if (qEnvironmentVariableIsSet("QV_COMMONS_REFRESH_PICTURES")) {
       ASSERT_TRUE(drawn.save(path));
       return;

@@ -12,6 +12,7 @@
 
 #include "qv_commons/age_gate/age_gate_helper.h"
 #include "qv_commons/platform/desktop/desktop_platform.h"
+#include "qv_commons/platform/desktop/sheet.h"
 #include "qv_commons/platform/desktop/wheel.h"
 #include "qv_commons/platform/desktop/wheel_date_picker.h"
 
@@ -27,7 +28,8 @@ void say(const char* word) {
 
 QWidget* screenWith(const char* view) {
   for (QWidget* window : QApplication::topLevelWidgets()) {
-    if (window->isVisible() && window->findChild<QWidget*>(view) != nullptr) return window;
+    auto* top = qv_commons::desktop::Sheet::topOf(*window);
+    if (top != nullptr && top->findChild<QWidget*>(view) != nullptr) return top;
   }
   return nullptr;
 }
@@ -51,10 +53,10 @@ void pickAndConfirm(int year) {
     if (wheel->field() == DateField::year) wheel->turnToNumber(year);
   }
   auto* button = gate->findChild<QPushButton*>("confirmBtn");
-  const QPoint place = button->mapTo(gate, button->rect().center());
+  const QPoint place = button->mapTo(gate->window(), button->rect().center());
   say("ready");
   std::getchar();
-  QTest::mouseClick(gate->windowHandle(), Qt::LeftButton, {}, place);
+  QTest::mouseClick(gate->window()->windowHandle(), Qt::LeftButton, {}, place);
 }
 
 }  // namespace
@@ -85,7 +87,9 @@ int main(int count, char** arguments) {
   }
   QTimer::singleShot(0, [&isAllowed, year = std::stoi(arguments[2])] {
     pickAndConfirm(year);
-    if (isAllowed) QTimer::singleShot(0, [] { say("told"); });
+    QTimer::singleShot(0, [&isAllowed] {
+      if (isAllowed) say("told");
+    });
   });
   return QApplication::exec();
 }

@@ -14,7 +14,7 @@ class ComposerDrafts : public ComposerTest {
  protected:
   void saveOne(const std::string& recipient, const std::string& subject, const std::string& text) {
     open(recipient, subject, text);
-    click(*composer_, "save");
+    saveDraft(*composer_);
     ASSERT_TRUE(waitUntil([&] { return !isOpen(); })) << noticeText();
   }
 

@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTextEdit>
 #include <gmock/gmock.h>
 #include <memory>
 #include <optional>
@@ -25,6 +26,7 @@ class ComposerTest : public testing::Test {
                    folder_.path("arguments") + "\"");
     host_.resize(375, 667);
     host_.show();
+    host_.activateWindow();  // where there is no window manager that does it
     settle();
   }
 
@@ -44,19 +46,18 @@ class ComposerTest : public testing::Test {
     composer_->setMailComposeDelegate(delegate_);
     composer_->addAttachment({"Zm9v", "Text/XML", "Receipt-Data.txt"});
     screen_->presentViewController(composer_, true, nullptr);
-    // Where there is no window manager, the keyboard comes to it a moment later.
     ASSERT_TRUE(waitUntil([&] {
       return windowOf(*composer_).isActiveWindow() && QApplication::focusWidget() != nullptr;
     }));
   }
 
   bool isOpen() const { return isOnScreen(*composer_); }
-  QLabel& notice() { return find<QLabel>(*composer_, "notice"); }
+  QTextEdit& notice() { return find<QTextEdit>(*composer_, "notice"); }
 
   // What the notice says, as a person reads it; "" where there is none.
   std::string noticeText() {
     if (!notice().isVisible()) return "";
-    return notice().text().remove(QChar(0x200b)).toStdString();
+    return notice().toPlainText().toStdString();
   }
 
   bool waitForNotice(const std::string& start) {

@@ -2,6 +2,8 @@
 #include <QAccessible>
 #include <QApplication>
 
+#include "qv_commons/platform/desktop/sheet.h"
+
 #include "tests/desktop/composer_fixture.h"
 
 namespace qv_commons::desktop {
@@ -27,8 +29,8 @@ TEST_F(ComposerWindows, ComesUpOverTheHostsAndBlocksIt) {
   click(button);
   EXPECT_EQ(clicks, 1);
   open();
-  EXPECT_EQ(windowOf(*composer_).geometry(), host_.geometry());
-  EXPECT_EQ(windowOf(*composer_).windowModality(), Qt::WindowModal);
+  EXPECT_EQ(windowOf(*composer_).window(), &host_);
+  EXPECT_EQ(windowOf(*composer_).size(), host_.size());
   click(button);
   EXPECT_EQ(clicks, 1);
   click(*composer_, "cancel");
@@ -42,12 +44,12 @@ TEST_F(ComposerWindows, AnotherOneAboveBlocksIt) {
   const auto above = desktop_->platform().viewControllers.makeMailComposer();
   screen_->presentViewController(above, true, nullptr);
   settle();
-  click(*composer_, "cancel");
-  settle();
-  EXPECT_TRUE(isOpen());
-  click(*above, "cancel");
+  EXPECT_TRUE(Sheet::isCovered(find<QWidget>(*composer_, "cancel")));
+  EXPECT_FALSE(Sheet::isCovered(find<QWidget>(*above, "cancel")));
+  click(*composer_, "cancel");  // where the one above has its own
   settle();
   EXPECT_FALSE(isOnScreen(*above));
+  EXPECT_TRUE(isOpen());
   click(*composer_, "cancel");
   settle();
   EXPECT_FALSE(isOpen());
@@ -92,6 +94,8 @@ TEST_F(ComposerWindows, ControlReturnSends) {
 TEST_F(ComposerWindows, ControlSSaves) {
   open();
   press(*composer_, Qt::Key_S, Qt::ControlModifier);
+  ASSERT_TRUE(waitForNotice("Saved to "));
+  press(*composer_, Qt::Key_Return);
   ASSERT_TRUE(waitUntil([&] { return !isOpen(); }));
   EXPECT_THAT(delegate_->results, ElementsAre(MailComposeResult::saved));
 }
@@ -117,32 +121,53 @@ TEST_F(ComposerWindows, EscapeCancelsWhatNobodyTouched) {
   EXPECT_THAT(delegate_->results, ElementsAre(MailComposeResult::cancelled));
 }
 
-TEST_F(ComposerWindows, EscapeAndTheCloseButtonKeepWhatWasTyped) {
+TEST_F(ComposerWindows, EscapeAndCancelAskOnceSomethingWasTyped) {
   open();
   press(*composer_, Qt::Key_X);
   press(*composer_, Qt::Key_Escape);
-  EXPECT_EQ(noticeText(),
-            "Your message is still here. Save it as a draft, or cancel to discard it.");
-  windowOf(*composer_).close();
+  settle();
+  ViewController* question = composer_->presentedViewController();
+  ASSERT_NE(question, nullptr);
+  EXPECT_EQ(find<QLabel>(*question, "title").text().remove(QChar(0x200b)), "Discard this message?");
+  press(*question, Qt::Key_Escape);  // keep writing
+  settle();
+  EXPECT_EQ(composer_->presentedViewController(), nullptr);
+  click(*composer_, "cancel");
+  settle();
+  ASSERT_NE(composer_->presentedViewController(), nullptr);
+  click(*composer_->presentedViewController(), "action2");  // keep writing
   settle();
   EXPECT_TRUE(isOpen());
   EXPECT_EQ(body(), "Reason:\nx\nApp: x\n");
   EXPECT_THAT(delegate_->results, IsEmpty());
 }
 
-TEST_F(ComposerWindows, TheCloseButtonCancelsWhatNobodyTouched) {
+TEST_F(ComposerWindows, TheQuestionCanSaveADraft) {
   open();
-  windowOf(*composer_).close();
+  press(*composer_, Qt::Key_X);
+  click(*composer_, "cancel");
   settle();
-  EXPECT_FALSE(isOpen());
-  EXPECT_THAT(delegate_->results, ElementsAre(MailComposeResult::cancelled));
+  click(*composer_->presentedViewController(), "action0");
+  ASSERT_TRUE(waitForNotice("Saved to " + folder_.path("data/drafts/")));
+  EXPECT_TRUE(notice().textInteractionFlags().testFlag(Qt::TextSelectableByMouse));
+  press(*composer_, Qt::Key_Return);  // Done
+  ASSERT_TRUE(waitUntil([&] { return !isOpen(); }));
+  EXPECT_THAT(delegate_->results, ElementsAre(MailComposeResult::saved));
+}
+
+TEST_F(ComposerWindows, AWindowThatIsClosedKeepsWhatWasTyped) {
+  open();
+  press(*composer_, Qt::Key_X);
+  EXPECT_TRUE(host_.close());
+  EXPECT_EQ(drafts().size(), 1U);
+  host_.show();
+  EXPECT_TRUE(isOpen());
 }
 
 TEST_F(ComposerWindows, EscapeDoesNothingWhereTheScreenIsModal) {
   open();
   composer_->setModalInPresentation(true);
   press(*composer_, Qt::Key_Escape);
-  windowOf(*composer_).close();
   settle();
   EXPECT_TRUE(isOpen());
   EXPECT_EQ(noticeText(), "");

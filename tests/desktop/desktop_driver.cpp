@@ -9,7 +9,7 @@
 #include <sstream>
 #include <sys/stat.h>
 
-#include "qv_commons/platform/desktop/desktop_controller.h"
+#include "qv_commons/platform/desktop/sheet_controller.h"
 
 namespace qv_commons::desktop {
 
@@ -47,6 +47,7 @@ std::string readFile(const std::string& path) {
 }
 
 QWidget& windowOf(ViewController& controller) {
+  if (auto* shown = dynamic_cast<SheetController*>(&controller.native())) return shown->content();
   return *dynamic_cast<DesktopController&>(controller.native()).window();
 }
 
@@ -62,6 +63,7 @@ void click(QWidget& widget) {
   if (!QTest::qWaitForWindowExposed(&window)) throw std::runtime_error("the window is not shown");
   QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {},
                     widget.mapTo(&window, widget.rect().center()));
+  QCoreApplication::processEvents();
 }
 
 void click(ViewController& controller, const char* name) {
@@ -69,13 +71,22 @@ void click(ViewController& controller, const char* name) {
 }
 
 void press(ViewController& controller, Qt::Key key, Qt::KeyboardModifiers modifiers) {
-  QTest::keyClick(windowOf(controller).windowHandle(), key, modifiers);
+  QTest::keyClick(windowOf(controller).window()->windowHandle(), key, modifiers);
+  QCoreApplication::processEvents();
 }
 
 void type(ViewController& controller, const char* text) {
   for (const char* letter = text; *letter != '\0'; ++letter) {
-    QTest::keyClick(windowOf(controller).windowHandle(), *letter);
+    QTest::keyClick(windowOf(controller).window()->windowHandle(), *letter);
   }
+}
+
+void saveDraft(ViewController& composer) {
+  click(composer, "save");
+  auto& done = find<QAbstractButton>(composer, "cancel");
+  const auto isSaved = [&done] { return done.text() == "Done"; };
+  EXPECT_TRUE(waitUntil(isSaved) || waitUntil(isSaved) || waitUntil(isSaved));  // a slow disk
+  click(done);
 }
 
 void settle() {

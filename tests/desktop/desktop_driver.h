@@ -34,6 +34,7 @@ class TestFolder {
 
 std::string readFile(const std::string& path);
 
+// What a controller shows: its sheet's content, or a host's window.
 QWidget& windowOf(ViewController& controller);
 bool isOnScreen(ViewController& controller);
 
@@ -45,10 +46,14 @@ Widget& find(ViewController& controller, const char* name) {
   return *widget;
 }
 
+// A click, and the turn of the event loop in which it is answered.
 void click(QWidget& widget);
 void click(ViewController& controller, const char* name);
 void press(ViewController& controller, Qt::Key key, Qt::KeyboardModifiers modifiers = {});
 void type(ViewController& controller, const char* text);
+
+// Saves the draft of a composer and goes on to Done.
+void saveDraft(ViewController& composer);
 
 // Lets the event loop run: for as long as it has something to do, or until `condition` holds, at
 // most ten seconds.

@@ -9,6 +9,7 @@
 
 #include "qv_commons/age_gate/age_gate_helper.h"
 #include "qv_commons/platform/desktop/desktop_platform.h"
+#include "qv_commons/platform/desktop/sheet.h"
 #include "qv_commons/platform/platform.h"
 #include "qv_commons/platform/view_controllers.h"
 #include "qv_commons/view_utils/view_controller_helper.h"
@@ -82,9 +83,8 @@ TEST_F(HostControllers, StayOnTopOfTheAlertsTheyShow) {
   EXPECT_EQ(alert->kind(), ViewControllerKind::alert);
   EXPECT_EQ(top(), page.get());
 
-  QWidget* dialog = QApplication::activeModalWidget();
-  ASSERT_NE(dialog, nullptr);
-  QTest::keyClick(dialog->windowHandle(), Qt::Key_Return);
+  ASSERT_NE(Sheet::topOf(pages), nullptr);
+  QTest::keyClick(pages.windowHandle(), Qt::Key_Return);
   EXPECT_TRUE(QTest::qWaitFor([&] { return page->presentedViewController() == nullptr; }));
 }
 
@@ -101,10 +101,10 @@ TEST(HostsOfAPlatformThatGoes, LetGoOfTheScreensThatKeepThem) {
     screen = host->presentedViewController()->retained();
   }
   EXPECT_FALSE(screen.expired()) << "the screen and its host keep each other";
-  EXPECT_NE(QApplication::activeModalWidget(), nullptr);
+  EXPECT_NE(Sheet::topOf(window), nullptr);
   desktop.reset();
   EXPECT_TRUE(screen.expired());
-  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  EXPECT_EQ(Sheet::topOf(window), nullptr);
 }
 
 TEST_F(HostControllers, OfAWidgetThatIsGoneShowNothing) {

@@ -7,8 +7,8 @@
 // purchases (one a line), and, if given, opening and metadata. PROGRAM and its arguments are the
 // mail program. Prints a line for each call of the delegate.
 #include <QApplication>
-#include <QLabel>
 #include <QPushButton>
+#include <QTextEdit>
 #include <cstdio>
 #include <filesystem>
 #include <optional>
@@ -62,7 +62,7 @@ int run(const std::string& folder, const std::string& program,
   ViewController& composer = *screen->presentedViewController();
   desktop::click(composer, "send");
   if (desktop::waitUntil([&] { return host->done; })) return 0;
-  std::puts(desktop::find<QLabel>(composer, "notice").text().toUtf8().constData());
+  std::puts(desktop::find<QTextEdit>(composer, "notice").toPlainText().toUtf8().constData());
   return 1;
 }
 

@@ -15,6 +15,7 @@
 #include "qv_commons/age_gate/age_gate_helper.h"
 #include "qv_commons/platform/desktop/icu_calendar.h"
 #include "qv_commons/platform/desktop/scrolled_column.h"
+#include "qv_commons/platform/desktop/sheet.h"
 #include "qv_commons/platform/desktop/widget_views.h"
 
 #include "tests/desktop/age_gate_fixture.h"
@@ -50,7 +51,7 @@ class Opened {
   int queue_ = inotify_init1(IN_NONBLOCK);
 };
 
-// How often each window but the host's was painted as a whole.
+// How often a sheet was painted.
 class Paintings final : public QObject {
  public:
   Paintings() { QCoreApplication::instance()->installEventFilter(this); }
@@ -58,8 +59,7 @@ class Paintings final : public QObject {
 
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() != QEvent::Paint) return false;
-    const auto* widget = qobject_cast<QWidget*>(watched);
-    if (widget != nullptr && widget->isWindow() && widget->layout() != nullptr) ++count;
+    if (qobject_cast<Sheet*>(watched) != nullptr) ++count;
     return false;
   }
 };
@@ -188,7 +188,7 @@ TEST_F(ScrolledColumnPainting, HasTheHeightOfItsTextsEachTimeThatItIsShown) {
 TEST(LinkedTextPainting, IsLaidOutOnceForAllItsColours) {
   LinkTextView widget;
   widget.setPlainText("Privacy Policy & Terms of Service");
-  LinkedTextView view(widget, nullptr);
+  LinkedTextView view(widget, nullptr, nullptr);
   const auto text = view.attributedText();
   text->addLink("https://example.com/privacy", {0, 14});
   text->addLink("https://example.com/terms", {17, 16});

@@ -75,12 +75,14 @@ TEST_F(ScreenLook, ReachesWindowsThatAreOpen) {
   alert->addAction("OK", AlertActionStyle::standard, nullptr);
   screen->presentViewController(alert, true, nullptr);
   settle();
-  EXPECT_TRUE(windowOf(*alert).styleSheet().contains("background: #ffffff"));
+  const QPoint place = windowOf(*alert).mapTo(&host, QPoint(50, 10));
+  const auto ground = [&] { return host.grab().toImage().pixelColor(place).name(); };
+  EXPECT_EQ(ground(), "#ffffff");
   usePalette(Qt::black, Qt::white);
   settle();
-  EXPECT_TRUE(windowOf(*alert).styleSheet().contains("background: #1c1c1e"));
+  EXPECT_EQ(ground(), "#1c1c1e");
   alert->setOverrideUserInterfaceStyle(UserInterfaceStyle::light);
-  EXPECT_TRUE(windowOf(*alert).styleSheet().contains("background: #ffffff"));
+  EXPECT_EQ(ground(), "#ffffff");
 }
 
 TEST_F(ScreenLook, HasTheSizeOfThePrimaryScreen) {

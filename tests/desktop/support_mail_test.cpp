@@ -28,6 +28,7 @@ class SupportMail : public testing::Test {
     folder_.write("bundle/Info.plist", "<plist version=\"1.0\"><dict/></plist>");
     window_.resize(375, 667);
     window_.show();
+    window_.activateWindow();  // where there is no window manager that does it
     settle();
   }
 
@@ -111,7 +112,7 @@ TEST_F(SupportMail, AttachesAnEmptyReceipt) {
   useReceipt("");
   ViewController& composer = contactSupport();
   EXPECT_EQ(find<QLabel>(composer, "attachmentSize").text(), "0 bytes");
-  click(composer, "save");
+  saveDraft(composer);
   ASSERT_TRUE(waitUntil([&] { return host_->completions == 1; }));
   EXPECT_THAT(onlyDraft(), HasSubstr("Content-Type: Text/XML; name=Receipt-Data.txt\n"));
 }
@@ -121,9 +122,8 @@ TEST_F(SupportMail, AttachesAHundredMegabytes) {
   useReceipt(std::string(99'999'999, 'x'));
   ViewController& composer = contactSupport();
   EXPECT_EQ(find<QLabel>(composer, "attachmentSize").text(), "133.3 MB");
-  click(composer, "save");
-  const auto isSaved = [&] { return host_->completions == 1; };
-  ASSERT_TRUE(waitUntil(isSaved) || waitUntil(isSaved) || waitUntil(isSaved));  // a slow disk
+  saveDraft(composer);
+  ASSERT_TRUE(waitUntil([&] { return host_->completions == 1; }));
   const std::string draft = onlyDraft();
   EXPECT_GT(draft.size(), 4 * (133'333'332 / 3));
   EXPECT_THAT(draft.substr(0, 2000), HasSubstr("\n\nZUhoNGVIaDRlSGg0"));
@@ -134,7 +134,7 @@ TEST_F(SupportMail, TakesAHundredThousandShortLines) {
   for (int i = 0; i < 100'000; ++i) metadata += "a line #\n";
   ViewController& composer = contactSupport(metadata);
   press(composer, Qt::Key_X);
-  click(composer, "save");
+  saveDraft(composer);
   ASSERT_TRUE(waitUntil([&] { return host_->completions == 1; }));
   const std::string draft = onlyDraft();
   EXPECT_THAT(draft.substr(0, 2000), HasSubstr("\n\nReason for contacting support:\nx\n\n"));
@@ -194,7 +194,7 @@ TEST_F(SupportMail, TwoClicksAreOneFinish) {
 TEST_F(SupportMail, KeepsTheBytesOfMetadataWhenTheUserWritesAbove) {
   ViewController& composer = contactSupport("a\rb\r\nc\n");
   press(composer, Qt::Key_X);
-  click(composer, "save");
+  saveDraft(composer);
   ASSERT_TRUE(waitUntil([&] { return host_->completions == 1; }));
   const std::string draft = onlyDraft();
   const std::size_t start = draft.find("base64\n\n") + 8;

@@ -44,6 +44,14 @@ class WheelTest : public testing::Test {
     return texts;
   }
   void press(Qt::Key key) { QTest::keyClick(picker_.windowHandle(), key); }
+  // From the first wheel on, by Tab.
+  void typeDate(const std::vector<const char*>& parts) {
+    picker_.wheels().front()->setFocus();
+    for (const char* part : parts) {
+      for (; *part != '\0'; ++part) QTest::keyClick(picker_.windowHandle(), *part);
+      press(Qt::Key_Tab);
+    }
+  }
   QPoint middleOf(DateField field) {
     Wheel& one = wheel(field);
     return one.mapTo(&picker_, one.rect().center());
@@ -206,6 +214,22 @@ TEST_F(WheelTest, ShortensTheDayToTheMonth) {
   EXPECT_EQ(picker_.date(), at("2023-02-28T12:00:00Z"));
 }
 
+TEST_F(WheelTest, TakesATypedDateAsItWasTyped) {
+  typeDate({"12", "31", "1990"});
+  EXPECT_THAT(texts(), ElementsAre("December", "31", "1990"));
+  typeDate({"2", "29", "2000"});
+  EXPECT_THAT(texts(), ElementsAre("February", "29", "2000"));
+  typeDate({"2", "31", "2001"});
+  EXPECT_THAT(texts(), ElementsAre("February", "28", "2001"));
+}
+
+TEST_F(WheelTest, ForgetsWhatWasTypedOnceAWheelIsTurned) {
+  typeDate({"2", "31", "2001"});
+  wheel(DateField::month).setFocus();
+  press(Qt::Key_Down);
+  EXPECT_THAT(texts(), ElementsAre("March", "28", "2001"));
+}
+
 class BritishWheelTest : public WheelTest {
  protected:
   BritishWheelTest() : WheelTest("en-GB") {}
@@ -213,6 +237,20 @@ class BritishWheelTest : public WheelTest {
 
 TEST_F(BritishWheelTest, HasTheDayFirst) {
   EXPECT_THAT(texts(), ElementsAre("20", "November", "2026"));
+}
+
+// Each day is shown as long as its month has it.
+TEST_F(BritishWheelTest, KeepsATypedDayForTheMonthThatIsStillToCome) {
+  typeDate({"31"});
+  EXPECT_THAT(texts(), ElementsAre("30", "November", "2026"));
+  typeDate({"31", "12"});
+  EXPECT_THAT(texts(), ElementsAre("31", "December", "2026"));
+  typeDate({"31", "12", "1990"});
+  EXPECT_THAT(texts(), ElementsAre("31", "December", "1990"));
+  typeDate({"29", "2"});
+  EXPECT_THAT(texts(), ElementsAre("28", "February", "1990"));
+  typeDate({"29", "2", "2000"});
+  EXPECT_THAT(texts(), ElementsAre("29", "February", "2000"));
 }
 
 class HebrewWheelTest : public WheelTest {

@@ -1,7 +1,7 @@
 #include "qv_commons/platform/desktop/composer_window.h"
 
-#include <QAccessible>
 #include <QDateTime>
+#include <QHideEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -20,8 +20,12 @@
 #include <utility>
 
 #include "qv_commons/platform/desktop/desktop_style.h"
+#include "qv_commons/platform/desktop/link_text_view.h"
 #include "qv_commons/platform/desktop/qt_text.h"
 #include "qv_commons/platform/desktop/scrolled_column.h"
+#include "qv_commons/platform/desktop/sheet_accessibility.h"
+#include "qv_commons/platform/desktop/sheet_button.h"
+#include "qv_commons/platform/desktop/thin_scroll_bar.h"
 
 namespace qv_commons::desktop {
 namespace {
@@ -34,11 +38,10 @@ Widget* named(Widget* widget, const QString& name, const char* role) {
   return widget;
 }
 
-QPushButton* makeButton(const QString& name, const QString& text, const char* role,
-                        const std::function<void()>& reaction) {
-  auto* button = named(new QPushButton(text), name, role);
-  button->setAutoDefault(false);  // Return in a field must not send
-  if (reaction) QObject::connect(button, &QPushButton::clicked, button, reaction);
+SheetButton* makeButton(const QString& name, const QString& text, const QKeySequence& keys,
+                        const char* role, const std::function<void()>& callback) {
+  auto* button = named(new SheetButton(text, keys), name, role);
+  if (callback) QObject::connect(button, &QPushButton::clicked, button, callback);
   return button;
 }
 
@@ -71,18 +74,20 @@ QLabel* makeLabel(const QString& name, const QString& text, const char* role) {
 
 }  // namespace
 
-ComposerWindow::ComposerWindow(const Reactions& reactions) {
+ComposerWindow::ComposerWindow(const Callbacks& callbacks) : callbacks_(callbacks) {
+  setProperty("role", "page");
   setWindowTitle("New message");
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
-  layout->addWidget(makeBar(reactions));
+  layout->addWidget(makeBar());
   scroll_ = new QScrollArea;
   scroll_->setWidgetResizable(true);
   scroll_->setFrameShape(QFrame::NoFrame);
   scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   scroll_->setFocusPolicy(Qt::NoFocus);
-  scroll_->setWidget(makePage(reactions));
+  scroll_->setVerticalScrollBar(new ThinScrollBar(Qt::Vertical));
+  scroll_->setWidget(makePage());
   layout->addWidget(scroll_);
   addShortcuts();
 
@@ -91,26 +96,29 @@ ComposerWindow::ComposerWindow(const Reactions& reactions) {
   body_->setFocus();
 }
 
-QWidget* ComposerWindow::makeBar(const Reactions& reactions) {
+QWidget* ComposerWindow::makeBar() {
   auto* bar = named(new QWidget, "bar", "page");
   auto* layout = new QHBoxLayout(bar);
-  layout->setContentsMargins(kSideMargin, kSideMargin, kSideMargin, kGap / 2);
-  cancel_ = makeButton("cancel", "&Cancel", "plain", reactions.cancel);
-  send_ = makeButton("send", "&Send", "primary", reactions.send);
+  // The plain button's padding lies in the margin, so that its text lines up with the fields.
+  layout->setContentsMargins(kSideMargin - kButtonPadding, kSideMargin, kSideMargin, kGap / 2);
+  cancel_ = makeButton("cancel", "Cancel", Qt::ALT | Qt::Key_C, "plain", callbacks_.cancel);
+  send_ = makeButton("send", "Send", Qt::ALT | Qt::Key_S, "primary", callbacks_.send);
   layout->addWidget(cancel_);
   layout->addStretch();
   layout->addWidget(send_);
   return bar;
 }
 
-QWidget* ComposerWindow::makePage(const Reactions& reactions) {
+QWidget* ComposerWindow::makePage() {
   auto* page = named(new ScrolledColumn, "page", "page");
   auto* layout = new QVBoxLayout(page);
   layout->setContentsMargins(kSideMargin, kGap / 2, kSideMargin, kBottomMargin);
   layout->setSpacing(kGap);
 
   layout->addWidget(makeLabel("title", windowTitle(), "title"));
-  notice_ = makeLabel("notice", "", "notice");
+  notice_ = named(new LinkTextView, "notice", "notice");
+  notice_->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);  // a path has no blanks
+  notice_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   notice_->hide();
   layout->addWidget(notice_);
   progress_ = named(new QProgressBar, "progress", "progress");
@@ -120,24 +128,24 @@ QWidget* ComposerWindow::makePage(const Reactions& reactions) {
 
   recipients_ = makeLineEdit("to");
   recipients_->setInputMethodHints(Qt::ImhEmailCharactersOnly);
-  addField(*layout, "&To", *recipients_);
+  addField(*layout, "To", *recipients_);
   subject_ = makeLineEdit("subject");
-  addField(*layout, "S&ubject", *subject_);
+  addField(*layout, "Subject", *subject_);
   body_ = named(new MessageEdit, "body", "field");
   body_->setTabChangesFocus(true);
+  body_->setVerticalScrollBar(new ThinScrollBar(Qt::Vertical));
   body_->setMinimumHeight(qRound(120 * textScale()));
-  addField(*layout, "&Message", *body_, 1);
+  addField(*layout, "Message", *body_, 1);
 
   attachments_ = new QVBoxLayout;
   attachments_->setSpacing(kGap / 2);
   layout->addLayout(attachments_);
-  save_ = makeButton("save", "Save &draft", "secondary", reactions.save);
+  save_ = makeButton("save", "Save draft", Qt::ALT | Qt::Key_D, "secondary", callbacks_.save);
   layout->addWidget(save_);
-  drafts_ = makeButton("drafts", "Open a d&raft", "secondary", nullptr);
+  drafts_ = makeButton("drafts", "Open a draft", Qt::ALT | Qt::Key_R, "secondary", nullptr);
   drafts_->setMenu(new QMenu(drafts_));
   drafts_->hide();
   layout->addWidget(drafts_);
-  openDraft_ = reactions.openDraft;
   return page;
 }
 
@@ -145,7 +153,7 @@ void ComposerWindow::addField(QVBoxLayout& page, const QString& caption, QWidget
                               int stretch) {
   auto* label = named(new QLabel(caption), field.objectName() + "Caption", "caption");
   label->setBuddy(&field);
-  field.setAccessibleName(QString(caption).remove('&'));
+  field.setAccessibleName(caption);
   auto* column = new QVBoxLayout;
   column->setSpacing(kCaptionGap);
   column->addWidget(label);
@@ -154,13 +162,20 @@ void ComposerWindow::addField(QVBoxLayout& page, const QString& caption, QWidget
 }
 
 void ComposerWindow::addShortcuts() {
-  const auto add = [this](const QKeySequence& keys, QPushButton* button) {
+  const auto press = [this](const QKeySequence& keys, QPushButton* button) {
     auto* shortcut = new QShortcut(keys, this);
     connect(shortcut, &QShortcut::activated, button, &QPushButton::click);
     button->setToolTip(keys.toString(QKeySequence::NativeText));
   };
-  add(Qt::CTRL | Qt::Key_Return, send_);
-  add(QKeySequence::Save, save_);
+  press(Qt::CTRL | Qt::Key_Return, send_);
+  press(QKeySequence::Save, save_);
+  const auto focus = [this](const QKeySequence& keys, QWidget* field) {
+    auto* shortcut = new QShortcut(keys, this);
+    connect(shortcut, &QShortcut::activated, field, [field] { field->setFocus(); });
+  };
+  focus(Qt::ALT | Qt::Key_T, recipients_);
+  focus(Qt::ALT | Qt::Key_U, subject_);
+  focus(Qt::ALT | Qt::Key_M, body_);
 }
 
 void ComposerWindow::setRecipients(const std::string& recipients) {
@@ -198,10 +213,16 @@ void ComposerWindow::addAttachment(const MailAttachment& attachment) {
                                                    QLocale::DataSizeSIFormat);
   auto* column = new QVBoxLayout;
   column->setSpacing(0);
-  column->addWidget(makeLabel("attachmentName", breakable(name), "text"));
+  QLabel* nameLabel = makeLabel("attachmentName", breakable(name), "text");
   QLabel* sizeLabel = makeLabel("attachmentSize", size, "caption");
-  column->addWidget(sizeLabel);
+  nameLabel->setAccessibleName(name);  // without the places to break
   sizeLabel->setAccessibleName("Attachment " + name + ", " + size);
+  for (QLabel* label : {nameLabel, sizeLabel}) {
+    // Where lines begin, whatever the direction of the name's own letters.
+    const bool isReversed = layoutDirection() == Qt::RightToLeft;
+    label->setAlignment(Qt::AlignAbsolute | (isReversed ? Qt::AlignRight : Qt::AlignLeft));
+    column->addWidget(label);
+  }
   attachments_->addLayout(column);
 }
 
@@ -223,7 +244,8 @@ void ComposerWindow::showDrafts(const std::vector<DraftSummary>& drafts) {
         QLocale().toString(QDateTime::fromSecsSinceEpoch(draft.written), QLocale::ShortFormat);
     const QString subject = draft.subject.empty() ? "(no subject)" : fromUtf8(draft.subject);
     QAction* action = menu.addAction(QString(subject + ", " + when).replace('&', "&&"));
-    connect(action, &QAction::triggered, this, [this, name = draft.name] { openDraft_(name); });
+    connect(action, &QAction::triggered, this,
+            [this, name = draft.name] { callbacks_.openDraft(name); });
   }
   drafts_->setVisible(!drafts.empty());
 }
@@ -253,18 +275,23 @@ void ComposerWindow::setPhase(Phase phase) {
   save_->setEnabled(editing);
   drafts_->setEnabled(editing);
   cancel_->setEnabled(phase != Phase::left);
-  cancel_->setText(phase == Phase::sending ? "&Stop" : "&Cancel");
+  cancel_->rename(phase == Phase::sending ? "Stop" : phase == Phase::saved ? "Done" : "Cancel");
+  if (phase == Phase::saved) cancel_->setFocus();
 }
 
-void ComposerWindow::showNotice(const QString& text, Tone tone) {
-  notice_->setText(breakable(text));
-  notice_->setAccessibleName(text);
-  notice_->setProperty("role", tone == Tone::error ? "error" : "notice");
+void ComposerWindow::showNotice(const QString& text, Severity severity) {
+  notice_->setProperty("role", severity == Severity::error ? "error" : "notice");
   notice_->style()->polish(notice_);
+  notice_->document()->setDefaultFont(notice_->font());
+  notice_->setPlainText(text);
   notice_->show();
   scroll_->ensureWidgetVisible(notice_);
-  QAccessibleEvent alert(notice_, QAccessible::Alert);
-  QAccessible::updateAccessibility(&alert);
+  announce(text);
+}
+
+void ComposerWindow::hideEvent(QHideEvent* event) {
+  QWidget::hideEvent(event);
+  if (!event->spontaneous() && callbacks_.hidden) callbacks_.hidden();
 }
 
 void ComposerWindow::hideNotice() {

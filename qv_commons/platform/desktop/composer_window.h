@@ -1,7 +1,7 @@
-// The window of the mail composer: what the user sees and types, and nothing of what becomes of it.
+// The page of the mail composer: what the user sees and types, and nothing of what becomes of it.
 #pragma once
 
-#include <QDialog>
+#include <QWidget>
 #include <functional>
 #include <string>
 #include <vector>
@@ -14,22 +14,28 @@ class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
 class QProgressBar;
-class QPushButton;
 class QScrollArea;
 class QVBoxLayout;
 
 namespace qv_commons::desktop {
 
-class ComposerWindow final : public QDialog {
+class LinkTextView;
+class SheetButton;
+
+class ComposerWindow final : public QWidget {
  public:
-  struct Reactions {
+  struct Callbacks {
     std::function<void()> send;
     std::function<void()> save;
     std::function<void()> cancel;
     std::function<void(const std::string& name)> openDraft;
+    std::function<void()> hidden;  // with the window around it, or because the composer goes
   };
 
-  explicit ComposerWindow(const Reactions& reactions);
+  explicit ComposerWindow(const Callbacks& callbacks);
+
+  // Nobody is called any more.
+  void forgetCallbacks() { callbacks_ = {}; }
 
   void setRecipients(const std::string& recipients);
   void setSubject(const std::string& subject);
@@ -48,15 +54,16 @@ class ComposerWindow final : public QDialog {
   // Whether the user has typed anything since the fields were set.
   bool isChanged() const;
 
-  enum class Phase : std::uint8_t { editing, sending, left };
+  enum class Phase : std::uint8_t { editing, sending, saved, left };
 
-  // While it sends, nothing can be changed, and Cancel reads Stop. Once it is left, no button does
-  // anything.
+  // While it sends, nothing can be changed, and Cancel reads Stop. Once the draft is saved, all
+  // that is left is Done; once the composer is left, no button does anything.
   void setPhase(Phase phase);
 
-  // A line above the fields, read out by screen readers; `field` takes the keyboard.
-  enum class Tone : std::uint8_t { news, error };
-  void showNotice(const QString& text, Tone tone);
+  // Lines above the fields that can be selected, read out by screen readers; `field` takes the
+  // keyboard.
+  enum class Severity : std::uint8_t { info, error };
+  void showNotice(const QString& text, Severity severity);
   void hideNotice();
 
   // How far the work is, from 0 to 1.
@@ -64,25 +71,28 @@ class ComposerWindow final : public QDialog {
   void hideProgress();
   void focusField(MailField field);
 
+ protected:
+  void hideEvent(QHideEvent* event) override;
+
  private:
-  QWidget* makeBar(const Reactions& reactions);
-  QWidget* makePage(const Reactions& reactions);
+  QWidget* makeBar();
+  QWidget* makePage();
   void addField(QVBoxLayout& page, const QString& caption, QWidget& field, int stretch = 0);
   void addShortcuts();
   void onEdited(int position, int removed, int added);
 
-  QPushButton* cancel_ = nullptr;
-  QPushButton* send_ = nullptr;
-  QPushButton* save_ = nullptr;
-  QPushButton* drafts_ = nullptr;
+  Callbacks callbacks_;
+  SheetButton* cancel_ = nullptr;
+  SheetButton* send_ = nullptr;
+  SheetButton* save_ = nullptr;
+  SheetButton* drafts_ = nullptr;
   QScrollArea* scroll_ = nullptr;
-  QLabel* notice_ = nullptr;
+  LinkTextView* notice_ = nullptr;
   QProgressBar* progress_ = nullptr;
   QLineEdit* recipients_ = nullptr;
   QLineEdit* subject_ = nullptr;
   QPlainTextEdit* body_ = nullptr;
   QVBoxLayout* attachments_ = nullptr;
-  std::function<void(const std::string&)> openDraft_;
   EditedText text_;
   QMetaObject::Connection edits_;  // taken in by `text_`
 };

@@ -14,6 +14,7 @@ namespace {
 constexpr int kYearsOnOffer = 150;  // nobody has lived that long
 constexpr int kNoon = 12;           // on every day of every zone, whatever the clocks do
 constexpr int kMostMonths = 14;     // one more than any calendar has
+constexpr int kLongestMonth = 32;   // of the Indian calendar, the longest of all
 
 QString toQString(const icu::UnicodeString& text) {
   return QString::fromUtf16(text.getBuffer(), text.length());
@@ -72,6 +73,7 @@ void DateWheels::makeFormats() {
 
 void DateWheels::setDate(Instant date) {
   if (!calendar_.dateByAddingYears(date, 0)) return;
+  typed_ = {};
   moveTo(maximum_ ? std::min(date, *maximum_) : date);
   UErrorCode status = U_ZERO_ERROR;
   const auto calendar = calendar_.makeCalendar();
@@ -115,10 +117,43 @@ int DateWheels::row(DateField field) const {
 }
 
 void DateWheels::choose(DateField field, int row) {
+  typed_ = {};
+  turn(field, row);
+}
+
+void DateWheels::turn(DateField field, int row) {
   const int nearest = std::clamp(row, 0, rows(field) - 1);
   if (nearest == this->row(field)) return;
   const Instant chosen = toInstant(millisecondsOfRow(field, nearest));
   moveTo(maximum_ ? std::min(chosen, *maximum_) : chosen);
+}
+
+void DateWheels::type(DateField field, int number) {
+  const auto isTyped = [this](DateField one) -> std::optional<int>& {
+    return typed_[static_cast<std::size_t>(one)];
+  };
+  if (field == DateField::year) {
+    const std::optional<int> row = yearRow(number);
+    if (!row) return;
+    turn(field, *row);
+  } else if (number < 1 || number > (field == DateField::day ? kLongestMonth : kMostMonths)) {
+    return;
+  }
+  isTyped(field) = number;
+  if (const auto month = isTyped(DateField::month)) turn(DateField::month, *month - 1);
+  if (const auto day = isTyped(DateField::day)) turn(DateField::day, *day - 1);
+}
+
+// The nearest of several: only where years are counted by eras.
+std::optional<int> DateWheels::yearRow(int number) const {
+  const int near =
+      row(DateField::year) + number - this->number(DateField::year, row(DateField::year));
+  const auto isIt = [&](int row) { return this->number(DateField::year, row) == number; };
+  if (near >= 0 && near < rows(DateField::year) && isIt(near)) return near;
+  for (int row = rows(DateField::year) - 1; row >= 0; --row) {
+    if (isIt(row)) return row;
+  }
+  return std::nullopt;
 }
 
 QString DateWheels::text(DateField field, int row, MonthForm form) const {

@@ -47,6 +47,11 @@ class DateWheels {
   // unless the month is shorter or the maximum is passed. The time of day stays as it was set.
   void choose(DateField field, int row);
 
+  // Turns a wheel to the number that was typed; nothing happens if there never is such a row. A day
+  // that the month lacks, or a month that the year lacks, is kept: the nearest one is shown until
+  // the fields that decide on it are typed too.
+  void type(DateField field, int number);
+
   // As it is written in the locale's language and digits, for example "February", "29" or "2000".
   QString text(DateField field, int row, MonthForm form = MonthForm::full) const;
 
@@ -70,6 +75,8 @@ class DateWheels {
   };
 
   void makeFormats();
+  std::optional<int> yearRow(int number) const;
+  void turn(DateField field, int row);
   std::vector<Month> monthsOf(int year) const;
   Day dayOf(Instant date) const;
   double millisecondsOf(const Month& month, int day) const;
@@ -91,6 +98,7 @@ class DateWheels {
   int firstYear_ = 0;  // on offer
   int lastYear_ = 0;
   int millisecondOfDay_ = 0;
+  std::array<std::optional<int>, 3> typed_;  // by DateField, until a wheel is turned
 };
 
 }  // namespace qv_commons::desktop

@@ -1,5 +1,6 @@
 #include "qv_commons/platform/desktop/desktop_composer.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QSysInfo>
 #include <QUuid>
@@ -8,6 +9,7 @@
 #include <unistd.h>
 #include <utility>
 
+#include "qv_commons/platform/desktop/desktop_alert.h"
 #include "qv_commons/platform/desktop/desktop_style.h"
 #include "qv_commons/platform/desktop/mail_addresses.h"
 #include "qv_commons/platform/desktop/mail_drafts.h"
@@ -17,7 +19,7 @@ namespace qv_commons::desktop {
 namespace {
 
 using Phase = ComposerWindow::Phase;
-using Tone = ComposerWindow::Tone;
+using Severity = ComposerWindow::Severity;
 
 constexpr int kProgressMilliseconds = 100;
 constexpr const char* kEnding = ".eml";
@@ -41,13 +43,20 @@ std::string joined(const std::vector<std::string>& texts) {
 }  // namespace
 
 DesktopComposer::DesktopComposer(SharedContext context)
-    : NativeOf(std::move(context)),
-      window_({.send = [this] { send(); },
-               .save = [this] { save(); },
-               .cancel = [this] { cancel(); },
-               .openDraft = [this](const std::string& name) { openDraft(name); }}),
+    : NativeOf(
+          std::move(context),
+          std::make_shared<ComposerWindow>(ComposerWindow::Callbacks{
+              .send = [this] { later([this] { send(); }); },
+              .save = [this] { later([this] { save(); }); },
+              .cancel = [this] { later([this] { cancel(); }); },
+              .openDraft =
+                  [this](const std::string& name) { later([this, name] { openDraft(name); }); },
+              .hidden = [this] { keepWhatWasTyped(); }}),
+          Sheet::Form::panel),
+      window_(static_cast<ComposerWindow&>(content())),
       identity_(toUtf8(QUuid::createUuid().toString(QUuid::WithoutBraces))) {
-  attachWindow(window_);
+  QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &progressTimer_,
+                   [this] { keepWhatWasTyped(); });
   QObject::connect(&progressTimer_, &QTimer::timeout, &progressTimer_, [this] {
     if (work_.isRunning()) window_.showProgress(output_->progress());
   });
@@ -57,31 +66,33 @@ DesktopComposer::DesktopComposer(SharedContext context)
 DesktopComposer::~DesktopComposer() {
   work_.finish();
   keepWhatWasTyped();
+  window_.forgetCallbacks();  // the window may live a little longer
 }
 
 void DesktopComposer::dress(UserInterfaceStyle style) {
-  window_.setStyleSheet(styleSheet(themeFor(style), textScale()));
+  const Theme theme = themeFor(style);
+  window_.setStyleSheet(styleSheet(theme, textScale()));
+  setGround(theme.background);
 }
 
 void DesktopComposer::userLeaves() {
-  if (isModalInPresentation() || isBusy()) return;
-  if (!window_.isChanged()) return cancel();
-  window_.showNotice("Your message is still here. Save it as a draft, or cancel to discard it.",
-                     Tone::news);
+  if (!isModalInPresentation() && !isBusy()) cancel();
 }
 
 void DesktopComposer::show(bool animated) {
   isOver_ = false;
-  DesktopController::show(animated);
+  SheetController::show(animated);
 }
 
 void DesktopComposer::hide(bool animated) {
-  if (!isBusy()) keepWhatWasTyped();
-  DesktopController::hide(animated);
+  keepWhatWasTyped();
+  isOver_ = true;
+  SheetController::hide(animated);
 }
 
+// Once for all when the composer goes; as often as its window is hidden before.
 void DesktopComposer::keepWhatWasTyped() {
-  if (isBusy() || std::exchange(isOver_, true) || !window_.isChanged()) return;
+  if (isBusy() || isOver_ || isSaved_ || !window_.isChanged()) return;
   MailOutput output(message(), context().draftDirectory(), identity_ + kEnding);
   output.write(MailOutput::Use::keep, false);
   if (output.failure()) context().reportError(*output.failure());
@@ -89,7 +100,7 @@ void DesktopComposer::keepWhatWasTyped() {
 
 void DesktopComposer::send() {
   if (const std::optional<MailProblem> problem = findProblem(message())) {
-    window_.showNotice(fromUtf8(problem->sentence), Tone::error);
+    window_.showNotice(fromUtf8(problem->sentence), Severity::error);
     return window_.focusField(problem->field);
   }
   write("Sending…", MailOutput::Use::send, [this] { deliver(); });
@@ -99,14 +110,16 @@ void DesktopComposer::save() {
   write("Saving…", MailOutput::Use::keep, [this] {
     if (output_->wasStopped()) return edit("Not saved. Saving was stopped.");
     if (output_->failure()) return edit("Not saved. " + *output_->failure());
-    leave(MailComposeResult::saved);
+    isSaved_ = true;
+    window_.setPhase(Phase::saved);
+    window_.showNotice(fromUtf8("Saved to " + draftPath()), Severity::info);
   });
 }
 
 void DesktopComposer::write(const QString& notice, MailOutput::Use use,
                             std::function<void()> done) {
   window_.setPhase(Phase::sending);
-  window_.showNotice(notice, Tone::news);
+  window_.showNotice(notice, Severity::info);
   output_ =
       std::make_shared<MailOutput>(message(), context().draftDirectory(), identity_ + kEnding);
   progressTimer_.start(kProgressMilliseconds);
@@ -126,7 +139,8 @@ void DesktopComposer::deliver() {
   const QString program = findMailProgram(settings.sendmailProgram);
   if (program.isEmpty()) return onDelivered("This computer has no mail program.");
   if (output_->noDraft()) {
-    window_.showNotice(fromUtf8("Sending… No copy is kept: " + *output_->noDraft()), Tone::news);
+    window_.showNotice(fromUtf8("Sending… No copy is kept: " + *output_->noDraft()),
+                       Severity::info);
   }
   QStringList arguments;
   for (const std::string& argument : settings.sendmailArguments) {
@@ -149,7 +163,7 @@ void DesktopComposer::onDelivered(const Failure& failure) {
 // The window is the user's again.
 void DesktopComposer::edit(const std::string& notice) {
   window_.setPhase(Phase::editing);
-  window_.showNotice(fromUtf8(notice), Tone::error);
+  window_.showNotice(fromUtf8(notice), Severity::error);
 }
 
 void DesktopComposer::cancel() {
@@ -157,7 +171,23 @@ void DesktopComposer::cancel() {
   if (isBusy()) {
     return sender_->stop("Sending was stopped. The message may have been sent all the same.");
   }
-  // The copy of a failed attempt is the user's only if they asked for it.
+  if (isSaved_) return leave(MailComposeResult::saved);
+  if (window_.isChanged()) return askBeforeLeaving();
+  giveUp();
+}
+
+void DesktopComposer::askBeforeLeaving() {
+  const auto question =
+      std::make_shared<DesktopAlert>(sharedContext(), "Discard this message?",
+                                     "What you have written is lost unless you save it.");
+  question->addAction("Save draft", AlertActionStyle::standard, [this] { save(); });
+  question->addAction("Discard", AlertActionStyle::destructive, [this] { giveUp(); });
+  question->addAction("Keep writing", AlertActionStyle::cancel, nullptr);
+  present(question, true, nullptr);
+}
+
+// The copy of a failed attempt is the user's only if they asked for it.
+void DesktopComposer::giveUp() {
   if (output_ == nullptr || isDraft_) return leave(MailComposeResult::cancelled);
   removeCopyAndLeave(MailComposeResult::cancelled);
 }

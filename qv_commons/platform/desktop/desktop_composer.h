@@ -10,14 +10,14 @@
 
 #include "qv_commons/platform/desktop/background_work.h"
 #include "qv_commons/platform/desktop/composer_window.h"
-#include "qv_commons/platform/desktop/desktop_controller.h"
 #include "qv_commons/platform/desktop/mail_output.h"
 #include "qv_commons/platform/desktop/mail_sender.h"
+#include "qv_commons/platform/desktop/sheet_controller.h"
 #include "qv_commons/platform/mail_composer.h"
 
 namespace qv_commons::desktop {
 
-class DesktopComposer final : public NativeOf<MailComposer, DesktopController> {
+class DesktopComposer final : public NativeOf<MailComposer, SheetController> {
  public:
   explicit DesktopComposer(SharedContext context);
   ~DesktopComposer() override;
@@ -31,8 +31,7 @@ class DesktopComposer final : public NativeOf<MailComposer, DesktopController> {
  protected:
   void dress(UserInterfaceStyle style) override;
 
-  // Leaves without a question where nothing was typed; otherwise says how to, so that no Escape
-  // takes a text away.
+  // As if by the Cancel button, unless a message is under way.
   void userLeaves() override;
 
   // Whoever takes the composer away, what the user has typed stays as a draft.
@@ -43,6 +42,8 @@ class DesktopComposer final : public NativeOf<MailComposer, DesktopController> {
   void send();
   void save();
   void cancel();
+  void askBeforeLeaving();
+  void giveUp();
   void openDraft(const std::string& name);
   bool isBusy() const { return work_.isRunning() || (sender_ != nullptr && sender_->isRunning()); }
 
@@ -61,10 +62,11 @@ class DesktopComposer final : public NativeOf<MailComposer, DesktopController> {
   void removeCopyAndLeave(MailComposeResult result);
   void leave(MailComposeResult result);
 
-  ComposerWindow window_;
+  ComposerWindow& window_;
   std::string identity_;  // names the message and its draft
   bool isDraft_ = false;  // that the user has kept
   bool isOver_ = false;   // left, or taken away and kept
+  bool isSaved_ = false;  // and waits for Done
   bool isHTML_ = false;
   std::vector<SharedAttachment> attachments_;
   std::weak_ptr<MailComposeDelegate> delegate_;

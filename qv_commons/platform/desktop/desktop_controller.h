@@ -1,9 +1,6 @@
-// What every view controller of the desktop adapter is: a window of its own, shown over the window
-// of whoever presents it.
+// What every view controller of the desktop adapter is.
 #pragma once
 
-#include <QObject>
-#include <QPointer>
 #include <QWidget>
 
 #include "qv_commons/platform/desktop/desktop_context.h"
@@ -13,7 +10,8 @@ namespace qv_commons::desktop {
 
 class DesktopController : public NativeController {
  public:
-  QWidget* window() const { return window_; }  // null once it has been destroyed
+  // The window that this controller is shown in, or null.
+  virtual QWidget* window() const = 0;
 
   void setModalInPresentation(bool modal) { modalInPresentation_ = modal; }
   void setOverrideUserInterfaceStyle(UserInterfaceStyle style);
@@ -23,44 +21,31 @@ class DesktopController : public NativeController {
   DesktopController(ViewController& controller, SharedContext context)
       : NativeController(controller, context->presentations), context_(std::move(context)) {}
 
-  // Takes `window` as this controller's; to be called once, by the constructor.
-  void attachWindow(QWidget& window);
-
   DesktopContext& context() const { return *context_; }
+  const SharedContext& sharedContext() const { return context_; }
   bool isModalInPresentation() const { return modalInPresentation_; }
 
-  // Where the window comes up, called before each time that it does.
-  virtual void place(QWidget& window, const QWidget& presenterWindow);
+  // The window of who presents this controller, or null.
+  QWidget* presenterWindow() const;
 
-  // Dresses the window, which is light or dark as told.
+  // Gives the screen the look that it was told or the desktop has.
+  void restyle();
   virtual void dress(UserInterfaceStyle) {}
 
-  // The user pressed Escape or closed the window, which is on the screen and stays there unless
-  // this takes it away.
+  // The user pressed Escape or the like; the screen stays unless this dismisses it.
   virtual void userLeaves();
 
-  void show(bool animated) override;
-  void hide(bool animated) override;
+  // Runs what the user asked for from the event loop, with this controller kept alive: a widget may
+  // be destroyed by it, and nothing of the widget's own may then be running. Dropped if the screen
+  // is gone by then.
+  void later(Completion action);
+
   void afterTransition(Completion transitionDone) override;
 
  private:
-  // Sees what happens to the window before the window does.
-  class Watcher final : public QObject {
-   public:
-    explicit Watcher(DesktopController& controller) : controller_(controller) {}
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
-   private:
-    DesktopController& controller_;
-  };
-
-  void redress();
-
   SharedContext context_;
-  QPointer<QWidget> window_;
-  Watcher watcher_{*this};
   bool modalInPresentation_ = false;
-  UserInterfaceStyle overrideStyle_ = UserInterfaceStyle::unspecified;
+  UserInterfaceStyle requestedStyle_ = UserInterfaceStyle::unspecified;
 };
 
 }  // namespace qv_commons::desktop

@@ -12,6 +12,7 @@
 #include "qv_commons/platform/desktop/host_controller.h"
 #include "qv_commons/platform/desktop/icu_calendar.h"
 #include "qv_commons/platform/desktop/mail_drafts.h"
+#include "qv_commons/platform/desktop/sheet_accessibility.h"
 #include "qv_commons/platform/desktop/sqlite_user_defaults.h"
 
 namespace qv_commons::desktop {
@@ -49,6 +50,7 @@ DesktopPlatform::Parts::~Parts() {
 }
 
 DesktopPlatform::DesktopPlatform(DesktopSettings settings) {
+  installAccessibility();
   auto context = std::make_shared<DesktopContext>();
   context->settings = std::move(settings);
   removeUnfinishedDrafts(context->draftDirectory());

@@ -8,34 +8,33 @@
 namespace qv_commons::desktop {
 namespace {
 
-// %1 to %8: the colours in the theme's order; %9: the font; then the sizes of title, button, text
-// and caption, and the padding of a field.
+// %1 to %7: the colours in the theme's order, without the background, which the sheet paints; %8:
+// the font; then the sizes of title, button, text and caption, and the padding of a field.
 constexpr char kSheet[] = R"(
-* { font-family: %9; font-size: %12px; color: %3; }
-QDialog, QScrollArea, QWidget[role="page"] { background: %1; border: none; }
-QLabel[role="title"] { font-size: %10px; font-weight: 600; }
-QLabel[role="heading"] { font-size: %11px; font-weight: 600; }
-QLabel[role="caption"] { font-size: %13px; color: %4; }
-QLabel[role="error"] { color: %8; }
+* { font-family: %8; font-size: %11px; color: %2; }
+QScrollArea, QWidget[role="page"] { background: transparent; border: none; }
+QLabel[role="title"] { font-size: %9px; font-weight: 600; }
+QLabel[role="heading"] { font-size: %10px; font-weight: 600; }
+QLabel[role="caption"] { font-size: %12px; color: %3; }
+QTextBrowser { font-size: %11px; background: transparent; border: none; padding: 0;
+  selection-background-color: %5; selection-color: %6; }
+QTextBrowser[role="error"] { color: %7; }
 QLineEdit, QPlainTextEdit {
-  font-size: %11px; background: %2; border: 2px solid %5; border-radius: 10px; padding: %14px;
-  selection-background-color: %6; selection-color: %7;
+  font-size: %10px; background: %1; border: 2px solid %4; border-radius: 10px; padding: %13px;
+  selection-background-color: %5; selection-color: %6;
 }
-QLineEdit:focus, QPlainTextEdit:focus { border-color: %6; }
+QLineEdit:focus, QPlainTextEdit:focus { border-color: %5; }
 QPushButton {
-  font-size: %11px; background: transparent; color: %6; border: 2px solid %5; border-radius: 10px;
-  padding: %14px 16px;
+  font-size: %10px; background: transparent; color: %5; border: 2px solid %4; border-radius: 10px;
+  padding: %13px 16px;
 }
 QPushButton[role="plain"] { border-color: transparent; padding-left: 8px; padding-right: 8px; }
 QPushButton[role="primary"] {
-  background: %6; color: %7; border-color: %6; font-weight: 600;
+  background: %5; color: %6; border-color: %5; font-weight: 600;
 }
-QPushButton:focus { border-color: %3; }
-QPushButton:pressed { border-color: %4; }
-QPushButton:disabled { background: transparent; color: %4; border-color: %5; }
-QScrollBar:vertical { background: transparent; width: 8px; margin: 0; }
-QScrollBar::handle:vertical { background: %4; border-radius: 4px; min-height: 32px; }
-QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
+*:focus { outline: none; }
+QPushButton:pressed { border-color: %3; }
+QPushButton:disabled { background: transparent; color: %3; border-color: %4; }
 )";
 
 QString pixels(double size, double scale) {
@@ -74,8 +73,8 @@ QString styleSheet(const Theme& theme, double scale) {
   // Inter comes first for its clear figures; the user's own font takes over where it is missing.
   const QString font = QString("Inter, \"%1\"").arg(QGuiApplication::font().family());
   return QString(kSheet)
-      .arg(theme.background, theme.field, theme.text, theme.caption, theme.line, theme.accent,
-           theme.onAccent, theme.error, font)
+      .arg(theme.field, theme.text, theme.caption, theme.line, theme.accent, theme.onAccent,
+           theme.error, font)
       .arg(pixels(24, scale), pixels(17, scale), pixels(15, scale), pixels(13, scale),
            pixels(8, scale));
 }

@@ -1,4 +1,4 @@
-// How the adapter's own windows look: one style sheet for all, light or dark.
+// How composers and alerts look: one style sheet for all, light or dark.
 #pragma once
 
 #include <QString>
@@ -32,8 +32,9 @@ inline constexpr int kSideMargin = 20;
 inline constexpr int kBottomMargin = 24;
 inline constexpr int kGap = 16;
 inline constexpr int kCaptionGap = 4;
+inline constexpr int kButtonPadding = 8;  // of a plain one, with its border 10
 
-// For a window whose widgets carry the property "role": title, heading, caption, error, primary or
+// For a page whose widgets carry the property "role": title, heading, caption, error, primary or
 // plain.
 QString styleSheet(const Theme& theme, double scale);
 

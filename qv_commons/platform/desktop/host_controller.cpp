@@ -1,5 +1,8 @@
 #include "qv_commons/platform/desktop/host_controller.h"
 
+#include <QEvent>
+#include <QKeyEvent>
+#include <QWindow>
 #include <utility>
 
 namespace qv_commons::desktop {
@@ -21,14 +24,55 @@ HostController::HostController(ViewControllerKind kind, SharedContext context, Q
       widget_(&widget),
       key_(&widget),
       shownPage_(std::move(shownPage)) {
-  attachWindow(*widget.window());
   this->context().hosts[&widget] = this;
+  // What is shown over a window goes with it.
+  QObject::connect(&widget, &QObject::destroyed, &watcher_, [this] {
+    afterTransition([weak = weak_from_this()] {
+      const std::shared_ptr<ViewController> self = weak.lock();
+      if (self != nullptr && self->presentedViewController() != nullptr) {
+        self->dismissViewController(false, nullptr);
+      }
+    });
+  });
 }
 
 HostController::~HostController() {
   auto& hosts = context().hosts;
   const auto found = hosts.find(key_);
   if (found != hosts.end() && found->second == this) hosts.erase(found);
+}
+
+bool HostController::Watcher::eventFilter(QObject* watched, QEvent* event) {
+  const bool isEscape = event->type() == QEvent::KeyPress &&
+                        static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel);
+  const bool isClose = event->type() == QEvent::Close && event->spontaneous();
+  if (!isEscape && !isClose) return QObject::eventFilter(watched, event);
+  event->ignore();
+  controller_.later([this] { controller_.userLeaves(); });
+  return true;
+}
+
+void HostController::show(bool) {
+  QWidget* shown = window();
+  if (shown == nullptr) return;
+  shown->installEventFilter(&watcher_);
+  shown->setWindowModality(Qt::WindowModal);
+  // It gets no parent, which would own it and dress it; the system learns from the transient parent
+  // alone which window it belongs to and blocks.
+  if (const QWidget* below = presenterWindow()) {
+    shown->setGeometry(below->geometry());
+    shown->winId();
+    shown->windowHandle()->setTransientParent(below->windowHandle());
+  }
+  shown->show();
+  shown->activateWindow();
+}
+
+void HostController::hide(bool) {
+  QWidget* shown = window();
+  if (shown == nullptr) return;
+  shown->removeEventFilter(&watcher_);
+  shown->hide();
 }
 
 ViewController* HostController::childViewController() const {

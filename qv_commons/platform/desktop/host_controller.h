@@ -1,6 +1,8 @@
 // The view controllers of what the host owns: a window, a page of it, or a container of pages.
 #pragma once
 
+#include <QObject>
+#include <QPointer>
 #include <functional>
 
 #include "qv_commons/platform/desktop/desktop_controller.h"
@@ -23,8 +25,25 @@ class HostController final : public NativeOf<ViewController, DesktopController> 
   }
 
   ViewController* childViewController() const override;
+  QWidget* window() const override { return widget_ == nullptr ? nullptr : widget_->window(); }
+
+ protected:
+  // One that is presented is a window already, and comes up as one over the presenter's.
+  void show(bool animated) override;
+  void hide(bool animated) override;
 
  private:
+  // Sees the keys of the widget's window, and its end.
+  class Watcher final : public QObject {
+   public:
+    explicit Watcher(HostController& controller) : controller_(controller) {}
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+   private:
+    HostController& controller_;
+  };
+
+  Watcher watcher_{*this};
   QPointer<QWidget> widget_;  // null once it has been destroyed
   const QWidget* key_;        // what it is known by among the hosts
   ShownPage shownPage_;

@@ -1,4 +1,4 @@
-// The native of the library's screens: a window whose views come from a layout.
+// The native of the library's screens: a sheet whose views come from a layout.
 #pragma once
 
 #include <memory>
@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "qv_commons/platform/application.h"
-#include "qv_commons/platform/desktop/desktop_controller.h"
 #include "qv_commons/platform/desktop/icu_calendar.h"
+#include "qv_commons/platform/desktop/sheet_controller.h"
 #include "qv_commons/platform/layout_screen.h"
 
 namespace qv_commons::desktop {
@@ -18,7 +18,7 @@ struct ScreenServices {
   Application& application;  // opens links
 };
 
-class LayoutController final : public NativeOf<ViewController, DesktopController> {
+class LayoutController final : public NativeOf<ViewController, SheetController> {
  public:
   // `path` is the layout file. It is read when the screen is first shown.
   LayoutController(SharedContext context, const ScreenServices& services, std::string path);
@@ -32,13 +32,10 @@ class LayoutController final : public NativeOf<ViewController, DesktopController
   void dress(UserInterfaceStyle style) override;
 
  private:
-  class ScreenWindow;
-
   void load();
 
   ScreenServices services_;
   std::string path_;
-  std::unique_ptr<ScreenWindow> screenWindow_;
   std::vector<std::shared_ptr<View>> views_;  // gone before the widgets that they refer to
   LayoutScreen* screen_ = nullptr;
   bool isLoaded_ = false;

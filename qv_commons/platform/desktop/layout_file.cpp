@@ -100,7 +100,7 @@ void setUpScrolling(QScrollArea& area) {
     QObject::connect(picker, &WheelDatePicker::dateChanged, &area,
                      [&area, picker] { area.ensureWidgetVisible(picker); });
   }
-  area.setVerticalScrollBar(new ThinScrollBar(&area));
+  area.setVerticalScrollBar(new ThinScrollBar(Qt::Vertical, &area));
   area.viewport()->setAutoFillBackground(false);
   if (area.widget() != nullptr) area.widget()->setAutoFillBackground(false);
 }
@@ -112,10 +112,11 @@ const Action* actionFor(const std::vector<Action>& actions, const QVariant& sele
   return found == actions.end() ? nullptr : &*found;
 }
 
-// A button's click, a date picker's change by the user.
-void connectAction(QWidget& widget, const Completion& run) {
+// A button's click, answered when it is over, since the screen may go then; a date picker's change
+// by the user.
+void connectAction(QWidget& widget, const Completion& run, const Later& later) {
   if (auto* button = qobject_cast<QAbstractButton*>(&widget)) {
-    QObject::connect(button, &QAbstractButton::clicked, button, [run] { run(); });
+    QObject::connect(button, &QAbstractButton::clicked, button, [later, run] { later(run); });
   }
   if (auto* picker = qobject_cast<WheelDatePicker*>(&widget)) {
     QObject::connect(picker, &WheelDatePicker::dateChanged, picker, run);
@@ -140,12 +141,13 @@ std::unique_ptr<QWidget> loadLayout(const std::string& path, const IcuCalendar& 
 }
 
 std::vector<std::shared_ptr<View>> connectScreen(QWidget& root, LayoutScreen& screen,
-                                                 const LinkOpener& open, const std::string& path) {
+                                                 const LinkOpener& open, const std::string& path,
+                                                 const Later& later) {
   std::vector<std::shared_ptr<View>> views;
   for (const Outlet& outlet : screen.outlets()) {
     auto* widget = root.findChild<QWidget*>(fromUtf8(outlet.name));
     if (widget == nullptr) continue;
-    views.push_back(makeView(*widget, open));
+    views.push_back(makeView(*widget, open, later));
     outlet.connect(views.back());
   }
   const std::vector<Action> actions = screen.actions();
@@ -154,7 +156,7 @@ std::vector<std::shared_ptr<View>> connectScreen(QWidget& root, LayoutScreen& sc
     if (!selector.isValid()) continue;
     const Action* action = actionFor(actions, selector);
     if (action == nullptr) failToLoad(path, "no action " + selector.toString());
-    connectAction(*widget, action->run);
+    connectAction(*widget, action->run, later);
   }
   return views;
 }

@@ -26,8 +26,10 @@ std::unique_ptr<QWidget> loadLayout(const std::string& path, const IcuCalendar& 
 
 // Connects the outlets of `screen` by object name and its actions by selector. A view of another
 // class leaves its outlet empty; an action that the screen doesn't have is a fatal error, naming
-// `path`. The views that come back keep the outlets connected; they refer to the widgets.
+// `path`. Clicks reach the screen through `later`. The views that come back keep the
+// outlets connected; they refer to the widgets.
 std::vector<std::shared_ptr<View>> connectScreen(QWidget& root, LayoutScreen& screen,
-                                                 const LinkOpener& open, const std::string& path);
+                                                 const LinkOpener& open, const std::string& path,
+                                                 const Later& later);
 
 }  // namespace qv_commons::desktop

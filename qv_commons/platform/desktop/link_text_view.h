@@ -1,9 +1,11 @@
 // A text that is read, with links: as tall as its text at the width it has, without bars or frame.
 //
-// A link is chosen by a click or tap on it or close to it, or by Tab and Return.
+// A link is chosen by a click or tap on it or close to it, by Tab and Return, or by a screen
+// reader.
 #pragma once
 
 #include <QTextBrowser>
+#include <vector>
 
 namespace qv_commons::desktop {
 
@@ -18,14 +20,42 @@ class LinkTextView final : public QTextBrowser {
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
 
+  struct Link {
+    int start;
+    int end;
+    QString target;
+    QString words;
+  };
+  const std::vector<Link>& links() const { return links_; }
+
+  int focusedLink() const { return hasFocus() ? focused_ : kNone; }
+  QRect linkPlace(int link) const;        // in the viewport; around all the lines that it is on
+  int linkAt(const QPoint& place) const;  // in the viewport
+  void focusLink(int link);
+  void pressLink(int link);
+
+  static constexpr int kNone = -1;
+
+ signals:
+  void linkPressed(const QString& target);
+
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  bool focusNextPrevChild(bool isNext) override;
   void changeEvent(QEvent* event) override;
 
  private:
+  void readLinks();
+  void moveFocus(int link);
   QString linkNear(const QPoint& place) const;
+  std::vector<QRect> linesOf(const Link& link) const;
+
+  std::vector<Link> links_;
+  int focused_ = kNone;
 };
 
 }  // namespace qv_commons::desktop

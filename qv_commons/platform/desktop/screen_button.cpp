@@ -3,6 +3,8 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "qv_commons/platform/desktop/sheet.h"
+
 namespace qv_commons::desktop {
 
 namespace {
@@ -18,6 +20,7 @@ constexpr double kRingRadius = 5;
 ScreenButton::ScreenButton(QWidget* parent) : QPushButton(parent) {
   setCursor(Qt::PointingHandCursor);
   setFocusPolicy(Qt::StrongFocus);
+  setAutoDefault(true);  // Return presses it
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
@@ -34,8 +37,8 @@ void ScreenButton::paintEvent(QPaintEvent*) {
   painter.setOpacity(isDown() ? kPressedOpacity : 1);
   painter.setPen(ink);
   painter.setFont(font());
-  painter.drawText(rect(), Qt::AlignCenter | Qt::TextShowMnemonic, text());
-  if (!hasFocus()) return;
+  painter.drawText(rect(), Qt::AlignCenter | Qt::TextHideMnemonic, text());
+  if (!Sheet::showsFocus(*this)) return;
   painter.setPen(QPen(ink, 2));
   const QRectF ring = QRectF(rect()).adjusted(kRingInset, kRingInset, -kRingInset, -kRingInset);
   painter.drawRoundedRect(ring, kRingRadius, kRingRadius);

@@ -14,23 +14,30 @@ constexpr double kOpacity = 0.4;
 
 }  // namespace
 
-ThinScrollBar::ThinScrollBar(QWidget* parent) : QScrollBar(Qt::Vertical, parent) {}
+ThinScrollBar::ThinScrollBar(Qt::Orientation orientation, QWidget* parent)
+    : QScrollBar(orientation, parent) {}
 
 QSize ThinScrollBar::sizeHint() const {
-  return {kWidth, kShortestHandle};
+  const QSize upright(kWidth, kShortestHandle);
+  return orientation() == Qt::Vertical ? upright : upright.transposed();
 }
 
 void ThinScrollBar::paintEvent(QPaintEvent*) {
   const int steps = maximum() - minimum();
   if (steps <= 0) return;
-  const int length = std::max(kShortestHandle, height() * pageStep() / (steps + pageStep()));
-  const int top = (height() - length) * (value() - minimum()) / steps;
+  const bool isVertical = orientation() == Qt::Vertical;
+  const int room = isVertical ? height() : width();
+  const int length = std::max(kShortestHandle, room * pageStep() / (steps + pageStep()));
+  const int start = (room - length) * (value() - minimum()) / steps;
+  const double beside = (kWidth - kHandleWidth) / 2.0;
+  const QRectF handle = isVertical ? QRectF(beside, start, kHandleWidth, length)
+                                   : QRectF(start, beside, length, kHandleWidth);
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setOpacity(kOpacity);
   painter.setPen(Qt::NoPen);
   painter.setBrush(palette().color(QPalette::WindowText));
-  painter.drawRoundedRect(QRectF((width() - kHandleWidth) / 2.0, top, kHandleWidth, length), 2, 2);
+  painter.drawRoundedRect(handle, 2, 2);
 }
 
 }  // namespace qv_commons::desktop

@@ -9,7 +9,7 @@ class ThinScrollBar final : public QScrollBar {
   Q_OBJECT
 
  public:
-  explicit ThinScrollBar(QWidget* parent = nullptr);
+  explicit ThinScrollBar(Qt::Orientation orientation, QWidget* parent = nullptr);
   QSize sizeHint() const override;
 
  protected:

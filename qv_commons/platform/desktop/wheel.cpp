@@ -8,6 +8,8 @@
 #include <cmath>
 #include <numbers>
 
+#include "qv_commons/platform/desktop/sheet.h"
+
 namespace qv_commons::desktop {
 
 namespace {
@@ -60,21 +62,6 @@ void Wheel::turnBy(int rows) {
   turnTo(date_.row(field_) + rows);
 }
 
-void Wheel::turnToNumber(int number) {
-  const int near = date_.row(field_) + number - this->number();
-  if (near >= 0 && near < date_.rows(field_) && date_.number(field_, near) == number) {
-    turnTo(near);
-    return;
-  }
-  // Only where years are counted by eras.
-  for (int row = date_.rows(field_) - 1; row >= 0; --row) {
-    if (date_.number(field_, row) == number) {
-      turnTo(row);
-      return;
-    }
-  }
-}
-
 void Wheel::turnTo(int row) {
   const int nearest = std::clamp(row, 0, date_.rows(field_) - 1);
   if (nearest != date_.row(field_)) emit turned(nearest);
@@ -89,7 +76,7 @@ void Wheel::paintEvent(QPaintEvent*) {
     if (row >= 0 && row < date_.rows(field_))
       paintRow(painter, row, row - date_.row(field_) + dragged);
   }
-  if (!hasFocus()) return;
+  if (!Sheet::showsFocus(*this)) return;
   QRectF ring(0, 0, width(), rowHeightFor(font()));
   ring.moveCenter(QRectF(rect()).center());
   painter.setPen(QPen(palette().color(QPalette::WindowText), 2));

@@ -38,11 +38,12 @@ class Wheel final : public QWidget {
   // The user's wish for a row further on, or back; at an end nothing happens.
   void turnBy(int rows);
 
-  // The row with that number, the nearest of several; nothing happens where there is none.
-  void turnToNumber(int number);
+  // The user's wish for that number, see `DateWheels::type`.
+  void turnToNumber(int number) { emit typed(number); }
 
  signals:
-  void turned(int row);  // by the user, to another row than the chosen one
+  void turned(int row);    // by the user, to another row than the chosen one
+  void typed(int number);  // by the user
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -1,14 +1,13 @@
 #include "qv_commons/platform/desktop/wheel_date_picker.h"
 
-#include <QAccessible>
 #include <QEvent>
 #include <QPainter>
 #include <QStyle>
 #include <algorithm>
 #include <numeric>
 
+#include "qv_commons/platform/desktop/view_accessibility.h"
 #include "qv_commons/platform/desktop/wheel.h"
-#include "qv_commons/platform/desktop/wheel_accessibility.h"
 
 namespace qv_commons::desktop {
 
@@ -29,11 +28,13 @@ int sumOf(const std::array<int, 3>& widths) {
 
 WheelDatePicker::WheelDatePicker(const IcuCalendar& calendar, QWidget* parent)
     : QWidget(parent), date_(calendar) {
-  installWheelAccessibility();
   for (std::size_t place = 0; place < wheels_.size(); ++place) {
     const DateField field = date_.order()[place];
     auto* wheel = new Wheel(date_, field, this);
-    connect(wheel, &Wheel::turned, this, [this, field](int row) { turn(field, row); });
+    connect(wheel, &Wheel::turned, this,
+            [this, field](int row) { change([&] { date_.choose(field, row); }); });
+    connect(wheel, &Wheel::typed, this,
+            [this, field](int number) { change([&] { date_.type(field, number); }); });
     wheels_[place] = wheel;
   }
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
@@ -57,16 +58,19 @@ QSize WheelDatePicker::minimumSizeHint() const {
   return sizeHint();
 }
 
-void WheelDatePicker::turn(DateField field, int row) {
+void WheelDatePicker::change(const std::function<void()>& change) {
   const Instant before = date_.date();
-  date_.choose(field, row);
-  for (Wheel* wheel : wheels_) wheel->update();
-  if (date_.date() == before) return;
-  for (Wheel* wheel : wheels_) {
-    QAccessibleValueChangeEvent event(wheel, wheel->chosenText());
-    QAccessible::updateAccessibility(&event);
+  std::array<QString, 3> textsBefore;
+  std::transform(wheels_.begin(), wheels_.end(), textsBefore.begin(),
+                 [](const Wheel* wheel) { return wheel->chosenText(); });
+  change();
+  for (std::size_t place = 0; place < wheels_.size(); ++place) {
+    wheels_[place]->update();
+    if (wheels_[place]->chosenText() != textsBefore[place]) {
+      reportTurn(*wheels_[place], textsBefore[place]);
+    }
   }
-  emit dateChanged();
+  if (date_.date() != before) emit dateChanged();
 }
 
 void WheelDatePicker::paintEvent(QPaintEvent*) {

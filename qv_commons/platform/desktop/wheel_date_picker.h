@@ -10,6 +10,7 @@
 
 #include <QWidget>
 #include <array>
+#include <functional>
 #include <optional>
 
 #include "qv_commons/platform/desktop/date_wheels.h"
@@ -45,7 +46,7 @@ class WheelDatePicker final : public QWidget {
   void changeEvent(QEvent* event) override;
 
  private:
-  void turn(DateField field, int row);
+  void change(const std::function<void()>& change);
   void rearrange();
   void arrange();
   QFont fitFont(std::array<int, 3>& widths);

@@ -7,6 +7,8 @@
 #include <utility>
 
 #include "qv_commons/platform/desktop/qt_text.h"
+#include "qv_commons/platform/desktop/thin_scroll_bar.h"
+#include "qv_commons/platform/desktop/wheel.h"
 
 namespace qv_commons::desktop {
 
@@ -55,7 +57,15 @@ void PanelView::setBackgroundColor(const Color& color) {
   const QColor ground = toQColor(color);
   if (ground.alpha() < 255) return;
   const bool isLight = luminanceOf(ground) > kLuminanceOfEqualContrast;
-  setColor(panel_, QPalette::All, QPalette::WindowText, isLight ? Qt::black : Qt::white);
+  // Handed down by hand: Qt doesn't where the host's window has a style sheet.
+  for (QWidget* held : panel_.findChildren<QWidget*>()) {
+    const bool isPlain = qobject_cast<Wheel*>(held) != nullptr ||
+                         qobject_cast<WheelDatePicker*>(held) != nullptr ||
+                         qobject_cast<ThinScrollBar*>(held) != nullptr;
+    if (isPlain) {
+      setColor(*held, QPalette::All, QPalette::WindowText, isLight ? Qt::black : Qt::white);
+    }
+  }
 }
 
 LabelView::LabelView(QLabel& label) : WidgetView(label), label_(label), text_(label.text()) {
@@ -92,10 +102,11 @@ void ButtonView::setTitleColor(const Color& color, ControlState state) {
   setColor(button_, QPalette::Inactive, QPalette::ButtonText, title);
 }
 
-LinkedTextView::LinkedTextView(LinkTextView& widget, LinkOpener open)
+LinkedTextView::LinkedTextView(LinkTextView& widget, LinkOpener open, const Later& later)
     : WidgetView(widget), widget_(widget), open_(std::move(open)) {
-  QObject::connect(&widget, &QTextBrowser::anchorClicked, &widget,
-                   [this](const QUrl& place) { follow(place); });
+  QObject::connect(
+      &widget, &LinkTextView::linkPressed, &widget,
+      [this, later](const QString& target) { later([this, target] { follow(target); }); });
 }
 
 std::unique_ptr<AttributedString> LinkedTextView::attributedText() const {
@@ -140,9 +151,9 @@ void LinkedTextView::paintLinks(QTextDocument& document) const {
   }
 }
 
-void LinkedTextView::follow(const QUrl& place) {
+void LinkedTextView::follow(const QString& target) {
   bool isOurs = false;
-  const std::size_t number = place.toString().toULong(&isOurs);
+  const std::size_t number = target.toULong(&isOurs);
   if (!isOurs || number >= links_.size()) return;
   const LinkRun link = links_[number];  // the delegate may take the screen away
   const LinkOpener open = open_;
@@ -151,12 +162,12 @@ void LinkedTextView::follow(const QUrl& place) {
   }
 }
 
-std::shared_ptr<View> makeView(QWidget& widget, const LinkOpener& open) {
+std::shared_ptr<View> makeView(QWidget& widget, const LinkOpener& open, const Later& later) {
   if (auto* picker = qobject_cast<WheelDatePicker*>(&widget)) {
     return std::make_shared<PickerView>(*picker);
   }
   if (auto* text = qobject_cast<LinkTextView*>(&widget)) {
-    return std::make_shared<LinkedTextView>(*text, open);
+    return std::make_shared<LinkedTextView>(*text, open, later);
   }
   if (auto* button = qobject_cast<ScreenButton*>(&widget)) {
     return std::make_shared<ButtonView>(*button);

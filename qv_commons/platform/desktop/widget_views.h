@@ -12,6 +12,7 @@
 #include "qv_commons/platform/desktop/link_text_view.h"
 #include "qv_commons/platform/desktop/screen_button.h"
 #include "qv_commons/platform/desktop/wheel_date_picker.h"
+#include "qv_commons/platform/view_controller.h"
 #include "qv_commons/platform/views.h"
 
 namespace qv_commons::desktop {
@@ -83,12 +84,15 @@ class PickerView final : public WidgetView<DatePicker> {
   WheelDatePicker& picker_;
 };
 
+// Runs something from the event loop, see `DesktopController::later`.
+using Later = std::function<void(Completion)>;
+
 // Opens a link with the system; what is no URL comes to nothing.
 using LinkOpener = std::function<void(std::string_view link)>;
 
 class LinkedTextView final : public WidgetView<TextView> {
  public:
-  LinkedTextView(LinkTextView& widget, LinkOpener open);
+  LinkedTextView(LinkTextView& widget, LinkOpener open, const Later& later);
 
   std::unique_ptr<AttributedString> attributedText() const override;
   void setAttributedText(const AttributedString& text) override;
@@ -97,7 +101,7 @@ class LinkedTextView final : public WidgetView<TextView> {
   void setDelegate(TextViewDelegate* delegate) override { delegate_ = delegate; }
 
  private:
-  void follow(const QUrl& place);
+  void follow(const QString& target);
   void paintLinks(QTextDocument& document) const;
 
   LinkTextView& widget_;
@@ -108,6 +112,6 @@ class LinkedTextView final : public WidgetView<TextView> {
 };
 
 // The view that goes with the widget's class.
-std::shared_ptr<View> makeView(QWidget& widget, const LinkOpener& open);
+std::shared_ptr<View> makeView(QWidget& widget, const LinkOpener& open, const Later& later);
 
 }  // namespace qv_commons::desktop
