@@ -85,7 +85,8 @@ target_compile_definitions(qv_objc_common INTERFACE GNUSTEP GNUSTEP_BASE_LIBRARY
                            _NATIVE_OBJC_EXCEPTIONS)
 target_compile_options(qv_objc_common INTERFACE $<$<COMPILE_LANGUAGE:OBJCXX>:-fblocks -fexceptions
                        -fobjc-exceptions -fconstant-string-class=NSConstantString
-                       -Wno-gnu-conditional-omitted-operand>)
+                       -Wno-gnu-conditional-omitted-operand
+                       -Wno-cast-function-type>)  # IMPs are cast to their methods' types
 add_library(qv_objc_plain INTERFACE)
 target_compile_options(qv_objc_plain INTERFACE $<$<COMPILE_LANGUAGE:OBJCXX>:-fobjc-runtime=gcc>)
 target_link_libraries(qv_objc_plain INTERFACE qv_objc_common)

@@ -7,7 +7,8 @@ namespace {
 
 std::string listed(const std::vector<std::string>& texts) {
   std::string list;
-  for (const std::string& text : texts) list.append(list.empty() ? "" : ", ").append(inQuotes(text));
+  for (const std::string& text : texts)
+    list.append(list.empty() ? "" : ", ").append(inQuotes(text));
   return list;
 }
 
