@@ -1,4 +1,5 @@
-// The tests' side of the memory adapter, and the beginning of another's: see docs/writing-an-adapter.md.
+// The tests' side of the memory adapter, and the beginning of another's: see
+// docs/writing-an-adapter.md.
 #pragma once
 
 #include "qv_commons/platform/memory/memory_platform.h"
