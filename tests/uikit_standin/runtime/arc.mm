@@ -47,7 +47,9 @@ AssociatedObjects& associatedObjects() {
   return *objects;
 }
 
+// A class is not asked: it may be on the way to being initialised, and not answer yet.
 bool isConstant(id object) {
+  if (class_isMetaClass(object_getClass(object))) return true;
   return [object retainCount] == NSUIntegerMax;
 }
 
