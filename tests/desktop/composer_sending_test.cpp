@@ -285,8 +285,8 @@ TEST_F(ComposerSending, LeavesTheSenderToTheMailProgramWhereNoneCanBeMade) {
   EXPECT_THAT(readFile(folder_.path("sent")), testing::Not(HasSubstr("From:")));
 }
 
-// A program that says 20 MB at its second run: the host takes none of it but the end. What any notice
-// needs, the first has brought in.
+// A program that says 20 MB at its second run: the host takes none of it but the end. What any
+// notice needs, the first has brought in.
 TEST_F(ComposerSending, KeepsTheEndOfAFloodOfComplaints) {
   if (test::kIsSanitized) GTEST_SKIP() << "a sanitizer keeps freed memory";
   const std::string mark = "\"" + folder_.path("ran") + "\"";
