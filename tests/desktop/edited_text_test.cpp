@@ -149,5 +149,35 @@ TEST(EditedText, AddsNoLineEndsToAVeryLongLine) {
   EXPECT_EQ(edited(std::string(2500, 'x'), 1000, 1, ""), std::string(2500, 'x'));
 }
 
+std::string manyLines(int count) {
+  std::string text;
+  for (int i = 0; i < count; ++i) text += "a line #\r\n";
+  return text;
+}
+
+// However long the text is, a widget has as much to do.
+TEST(EditedText, ShowsTheBeginningOfALongOne) {
+  EXPECT_EQ(EditedText(manyLines(4'999)).hiddenBytes(), 0U);
+  for (const int count : {5'001, 100'000, 1'000'000}) {
+    const EditedText text(manyLines(count));
+    EXPECT_EQ(text.size(), 5'000U * 9 - 1) << count;
+    EXPECT_EQ(text.shown().count('\n'), 4'999) << count;
+    EXPECT_EQ(text.hiddenBytes(), static_cast<std::size_t>(count) * 10 - (5'000 * 10 - 2)) << count;
+  }
+  const EditedText line(std::string(10'000'000, 'x'));
+  EXPECT_EQ(line.shown().size(), 500'499);
+  EXPECT_EQ(line.hiddenBytes(), 9'500'000U);
+}
+
+TEST(EditedText, KeepsWhatIsNotShown) {
+  const std::string original = manyLines(20'000) + std::string(100, 'x') + "\xff\r";
+  EXPECT_TRUE(Edited(original).bytes() == original);
+  EXPECT_TRUE(edited(original, 0, 0, "new\n") == "new\n" + original);
+  const int end = 5'000 * 9 - 1;
+  EXPECT_TRUE(edited(original, end, 0, "!") ==
+              manyLines(4'999) + "a line #!" + original.substr(49'998));
+  EXPECT_TRUE(edited(original, 0, end, "") == original.substr(49'998));
+}
+
 }  // namespace
 }  // namespace qv_commons::desktop

@@ -12,6 +12,10 @@ namespace {
 // Qt lays out a paragraph as a whole, in a time that grows with the square of its longest word.
 constexpr std::size_t kLongestShownLine = 1000;
 
+// What a text widget takes in within a frame or two.
+constexpr std::size_t kMostShownLines = 5000;
+constexpr std::size_t kMostShownBytes = 500'000;
+
 // Where to part a line that is too long: after a blank, or at least between two characters.
 std::size_t lengthOfPiece(std::string_view line) {
   const std::size_t blank = line.rfind(' ', kLongestShownLine - 1);
@@ -70,10 +74,13 @@ EditedText::EditedText(std::string original) : original_(std::move(original)) {
     const std::string_view rest = std::string_view(original_).substr(byte);
     const FirstLine line = firstLine(rest);
     const auto units = static_cast<std::size_t>(fromUtf8(rest.substr(0, line.length)).size());
-    lines_.push_back({byte, unit, line.endBytes.value_or(0)});
-    byte += line.length + line.endBytes.value_or(0);
+    const bool isLast = !line.endBytes || lines_.size() + 1 == kMostShownLines ||
+                        byte + line.length >= kMostShownBytes;
+    const std::uint8_t endBytes = isLast ? std::uint8_t{0} : *line.endBytes;
+    lines_.push_back({byte, unit, endBytes});
+    byte += line.length + endBytes;
     unit += units + 1;
-    if (line.endBytes) continue;
+    if (!isLast) continue;
     lines_.push_back({byte, unit, 0});
     spans_.push_back({false, 0, unit - 1, {}});
     return;
@@ -191,6 +198,7 @@ void EditedText::replace(std::size_t position, std::size_t removed, const QStrin
 
 std::string EditedText::bytes() const {
   std::string bytes;
+  bytes.reserve(original_.size());
   for (const Span& span : spans_) {
     if (span.isTyped) {
       bytes += toUtf8(span.typed);
@@ -199,7 +207,7 @@ std::string EditedText::bytes() const {
     const std::size_t begin = byteOfUnit(span.begin);
     bytes.append(original_, begin, byteOfUnit(span.end) - begin);
   }
-  return bytes;
+  return bytes.append(original_, lines_.back().byte);
 }
 
 }  // namespace qv_commons::desktop
