@@ -118,7 +118,9 @@ TEST(MailDrafts, ComeBackAsTheyWere) {
        .body = "a\rb\r\nc\nFrom x\n\u2028 " + std::string(2000, 'x'),
        .attachments = {std::make_shared<const MailAttachment>(
            MailAttachment{bytes, "Text/XML", "Receipt-Data.txt"})}},
-      {.recipients = "half@", .subject = "a\x01\nb", .body = "From x\n = \t\n"},
+      {.recipients = std::string("half@\0", 6),
+       .subject = std::string("\0a\x01\nb\0c", 7),
+       .body = "From x\n = \t\n"},
       {.recipients = "a\r\nBcc: eve@example.com", .subject = "", .body = "no end", .isHTML = true},
       {}};
   for (const MailMessage& message : messages) {

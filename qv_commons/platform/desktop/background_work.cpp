@@ -5,10 +5,19 @@
 #include <utility>
 
 namespace qv_commons::desktop {
+namespace {
+
+thread_local const std::atomic<bool>* ofThisThread = nullptr;
+
+}  // namespace
 
 BackgroundWork::~BackgroundWork() {
   stop();
   finish();
+}
+
+bool BackgroundWork::isStopRequested() {
+  return ofThisThread != nullptr && *ofThisThread;
 }
 
 void BackgroundWork::finish() {
@@ -20,6 +29,7 @@ void BackgroundWork::finish() {
 void BackgroundWork::start(Work work, std::function<void()> done) {
   isStopped_ = false;
   thread_ = std::thread([this, work = std::move(work), done = std::move(done)]() mutable {
+    ofThisThread = &isStopped_;
     work(isStopped_);
     QMetaObject::invokeMethod(
         &receiver_,

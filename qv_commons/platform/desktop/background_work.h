@@ -26,6 +26,10 @@ class BackgroundWork {
 
   // Asks the work to end early; `done` is called all the same.
   void stop() { isStopped_ = true; }
+  bool isStopped() const { return isStopped_; }
+
+  // Whether the work that the calling thread does is to end early; false outside of any.
+  static bool isStopRequested();
 
   // Waits for the work to come to its own end; `done` is not called any more.
   void finish();

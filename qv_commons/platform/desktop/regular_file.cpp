@@ -1,12 +1,17 @@
 #include "qv_commons/platform/desktop/regular_file.h"
 
+#include <algorithm>
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include "qv_commons/platform/desktop/background_work.h"
 #include "qv_commons/platform/desktop/file_descriptor.h"
 
 namespace qv_commons::desktop {
 namespace {
+
+// After so many bytes a reader that is not wanted any more stops.
+constexpr std::size_t kPiece = 1 << 20;
 
 FileContents failure(int error) {
   return {std::nullopt, describeError(error)};
@@ -28,7 +33,9 @@ FileContents readRegularFile(const FileLocation& location) {
   std::string bytes(static_cast<std::size_t>(status.st_size) + 1, '\0');
   std::size_t length = 0;
   for (;;) {
-    const ssize_t got = ::read(file.number(), bytes.data() + length, bytes.size() - length);
+    if (BackgroundWork::isStopRequested()) return failure(ECANCELED);
+    const std::size_t room = std::min(kPiece, bytes.size() - length);
+    const ssize_t got = ::read(file.number(), bytes.data() + length, room);
     if (got < 0 && errno == EINTR) continue;
     if (got < 0) return failure(errno);
     if (got == 0) break;
