@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -44,6 +45,16 @@ class MailComposer : public ViewController {
   virtual void setMailComposeDelegate(std::weak_ptr<MailComposeDelegate> delegate) = 0;
   virtual void setMessageBody(std::string body, bool isHTML) = 0;
   virtual void addAttachment(MailAttachment attachment) = 0;
+
+  // Runs `work`, which may take long and uses nothing of the platform but `Bundles::read`, and then
+  // `done`, which attaches what `work` has made. To be called before the composer is presented. An
+  // adapter that can't attach any more then does both at once, as here. Another one may run `work`
+  // beside the main thread while the user reads the message, and `done` on the main thread; then
+  // nothing is sent before, and neither is run to its end where the user has left.
+  virtual void prepare(const std::function<void()>& work, const std::function<void()>& done) {
+    work();
+    done();
+  }
 };
 
 }  // namespace qv_commons

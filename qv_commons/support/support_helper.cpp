@@ -41,15 +41,25 @@ std::string composeBody(const Platform& platform, const std::vector<std::string>
                           .additionalMetadata = additionalMetadata});
 }
 
+// A receipt may be large: it is read and encoded where that holds nobody up.
 void attachReceipt(const Platform& platform, MailComposer& composer) {
   const std::optional<FileLocation> location = platform.bundles.mainBundle().appStoreReceiptURL();
   if (!location) return;
-  const FileContents receipt = platform.bundles.read(*location);
-  if (!receipt.bytes) {
-    platform.application.print("error converting receipt to Data: " + receipt.errorDescription);
-    return;
-  }
-  composer.addAttachment(supportMailAttachment(*receipt.bytes));
+  struct Receipt {
+    std::optional<MailAttachment> attachment;
+    std::string errorDescription;
+  };
+  const auto receipt = std::make_shared<Receipt>();
+  composer.prepare(
+      [receipt, &bundles = platform.bundles, location] {
+        FileContents contents = bundles.read(*location);
+        if (contents.bytes) receipt->attachment = supportMailAttachment(*contents.bytes);
+        receipt->errorDescription = std::move(contents.errorDescription);
+      },
+      [receipt, &application = platform.application, &composer] {
+        if (receipt->attachment) return composer.addAttachment(*std::move(receipt->attachment));
+        application.print("error converting receipt to Data: " + receipt->errorDescription);
+      });
 }
 
 }  // namespace
