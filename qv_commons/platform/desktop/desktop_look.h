@@ -1,11 +1,8 @@
 // Whether the desktop is light or dark, as its settings portal tells it.
 #pragma once
 
-#include <memory>
-
+#include "qv_commons/platform/desktop/portal_question.h"
 #include "qv_commons/platform/user_interface_style.h"
-
-class QDBusPendingCallWatcher;
 
 namespace qv_commons::desktop {
 
@@ -15,9 +12,6 @@ namespace qv_commons::desktop {
 class DesktopLook {
  public:
   DesktopLook();
-  ~DesktopLook();
-  DesktopLook(const DesktopLook&) = delete;
-  DesktopLook& operator=(const DesktopLook&) = delete;
 
   // `setting`, unless that is unspecified.
   UserInterfaceStyle style(UserInterfaceStyle setting) const;
@@ -25,7 +19,7 @@ class DesktopLook {
  private:
   UserInterfaceStyle toldStyle() const;
 
-  std::unique_ptr<QDBusPendingCallWatcher> answer_;  // null where nobody was asked
+  PortalQuestion question_;
 };
 
 }  // namespace qv_commons::desktop

@@ -14,6 +14,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -31,6 +32,18 @@ class QWidget;
 
 namespace qv_commons::desktop {
 
+// A way by which a message leaves this machine.
+enum class MailWay : std::uint8_t {
+  // The library's own composer, and the system's sendmail program.
+  sendmail,
+  // The desktop's mail program, opened with the message filled in and the files attached: by
+  // xdg-desktop-portal, or by the program xdg-email. What the user does there nobody tells, so the
+  // composer ends as `saved`: the message lies in the mail program, unsent as yet. Where the user
+  // was asked for a program and named none, it ends as `cancelled`.
+  portal,
+  xdgEmail,
+};
+
 struct DesktopSettings {
   // The host app's bundle: a folder with an Info.plist, XML or binary. Where it has a folder
   // StoreKit, the receipt is expected there as StoreKit/receipt. Empty: a bundle without values.
@@ -46,12 +59,18 @@ struct DesktopSettings {
   // has for this app's data, for example ~/.local/share/notes.
   std::string dataDirectory = {};
 
-  // The mail program, called as `program arguments -t -i` with the message on its standard input.
-  // Empty: "sendmail" in PATH, /usr/sbin or /usr/lib.
+  // Of these ways, the first that is there when a composer opens is taken; where the desktop can't
+  // take the message, the next one, and last the library's own composer shows why, with the message
+  // in it. With none, no mail can be sent. Names of recipients are not handed over to the desktop,
+  // and a body that is no text or more than about 30,000 bytes goes as an attached file.
+  std::vector<MailWay> mailWays = {MailWay::sendmail, MailWay::portal, MailWay::xdgEmail};
+
+  // The sendmail program, called as `program arguments -t -i` with the message on its standard
+  // input. Empty: "sendmail" in PATH, /usr/sbin or /usr/lib.
   std::string sendmailProgram = {};
   std::vector<std::string> sendmailArguments = {};
 
-  // How long the mail program may take before it is ended and counts as failed.
+  // How long that program may take before it is ended and counts as failed.
   std::chrono::milliseconds sendTimeout = std::chrono::seconds(60);
 
   // The sender's address. Empty: the user's login name at the host's name.
