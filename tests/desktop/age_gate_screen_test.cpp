@@ -358,7 +358,9 @@ TEST_F(AgeGateTest, GoesOnWhereNothingCanBeWritten) {
   pickYear(*gate(), "2020");
   confirm();
   EXPECT_NE(refusal(), nullptr);
-  EXPECT_THAT(errors_, testing::Contains(testing::HasSubstr("The folder /proc/no can't be made")));
+  EXPECT_THAT(errors_, testing::Contains("The settings are in the memory alone until they can be "
+                                         "written. The folder /proc/no can't be made: No such "
+                                         "file or directory."));
   startAgeGate();
   EXPECT_EQ(completions_, 0);
 }

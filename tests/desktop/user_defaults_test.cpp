@@ -190,7 +190,11 @@ TEST_F(UserDefaultsTest, ReportAFolderThatCannotBeWrittenAndGoOn) {
   defaults->setBool(true, kShown);
   defaults->commit();
   EXPECT_TRUE(defaults->boolForKey(kShown));
-  EXPECT_THAT(errors_, ElementsAre(HasSubstr("Not a directory")));
+  EXPECT_THAT(
+      errors_,
+      ElementsAre("The settings are in the memory alone until they can be written. "
+                  "The folder " +
+                  temporary_.path().toStdString() + "/data can't be made: Not a directory."));
 }
 
 TEST_F(UserDefaultsTest, KeepWhatTheDiskHadNoRoomForAndWriteItWithTheNext) {
@@ -215,9 +219,9 @@ TEST_F(UserDefaultsTest, KeepWhatTheDiskHadNoRoomForAndWriteItWithTheNext) {
 // Holds the file as another process does that is writing.
 class Holder {
  public:
-  explicit Holder(const fs::path& path) {
+  explicit Holder(const fs::path& path, const char* how = "BEGIN EXCLUSIVE") {
     EXPECT_EQ(sqlite3_open(path.c_str(), &database_), SQLITE_OK);
-    EXPECT_EQ(sqlite3_exec(database_, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
+    EXPECT_EQ(sqlite3_exec(database_, how, nullptr, nullptr, nullptr), SQLITE_OK);
   }
   ~Holder() { sqlite3_close(database_); }
   Holder(const Holder&) = delete;
@@ -323,6 +327,57 @@ TEST_F(UserDefaultsTest, TellAFailingWriteOnceAndTryItAgainByThemselves) {
   holder.reset();
   EXPECT_TRUE(QTest::qWaitFor([&] { return start()->boolForKey("later"); }, 10000));
   EXPECT_EQ(errors_.size(), 1U);
+}
+
+// The pauses of a commit, in reading and writing the file and the copy: together a quarter of a
+// second.
+constexpr int kMostPauses = 250 / 5;
+
+TEST_F(UserDefaultsTest, WaitNoLongerThanAQuarterOfASecondForOtherWriters) {
+  refuse();
+  const auto defaults = start();
+  EXPECT_TRUE(defaults->boolForKey(kBlocked));
+  const Holder ofFile(file());
+  const Holder ofCopy(copy());
+  const WatchedSqlite watched;
+  defaults->setBool(true, "later");
+  defaults->commit();
+  EXPECT_GT(watched.traffic().pauses, 0);
+  EXPECT_LE(watched.traffic().pauses, kMostPauses);
+  EXPECT_EQ(errors_.size(), 1U);
+}
+
+// First another process writes, then one reads: a transaction waits for both, in different steps.
+TEST_F(UserDefaultsTest, WaitNoLongerForWritersAndReadersTogether) {
+  refuse();
+  const auto defaults = start();
+  EXPECT_TRUE(defaults->boolForKey(kBlocked));
+  std::optional<Holder> writer(file());
+  std::optional<Holder> reader;
+  constexpr int kPausesOfTheWriter = 3;
+  WatchedSqlite watched;
+  watched.setOnPause([&](int number) {
+    if (number != kPausesOfTheWriter) return;
+    writer.reset();
+    reader.emplace(file(), "BEGIN; SELECT * FROM bools");
+  });
+  defaults->setBool(true, "later");
+  defaults->commit();
+  EXPECT_GT(watched.traffic().pauses, kPausesOfTheWriter);
+  EXPECT_LE(watched.traffic().pauses, kMostPauses);
+  EXPECT_EQ(errors_.size(), 1U);
+}
+
+TEST_F(UserDefaultsTest, WaitNoLongerWhereNothingWasReadBefore) {
+  refuse();
+  const Holder ofFile(file());
+  const Holder ofCopy(copy());
+  const auto defaults = start();
+  const WatchedSqlite watched;
+  defaults->setBool(true, "later");
+  defaults->commit();
+  EXPECT_EQ(watched.traffic().pauses, 0);  // the attempts to read have taken the time
+  EXPECT_THAT(errors_, testing::Not(IsEmpty()));
 }
 
 // Each would read as empty, or as a value that nobody wrote, if SQLite alone were asked.

@@ -3,6 +3,7 @@
 #include <csignal>
 #include <cstring>
 #include <sqlite3.h>
+#include <utility>
 
 namespace qv_commons::desktop {
 
@@ -12,6 +13,7 @@ namespace {
 FileTraffic seen;
 std::vector<std::string> run;
 int fatalChange = -1;
+std::function<void(int)> duringPause;
 sqlite3_vfs* real = nullptr;
 sqlite3_vfs watching;
 sqlite3_io_methods methods;
@@ -78,6 +80,12 @@ int Open(sqlite3_vfs*, const char* name, sqlite3_file* file, int flags, int* out
   return code;
 }
 
+int Sleep(sqlite3_vfs*, int microseconds) {
+  ++seen.pauses;
+  if (duringPause) duringPause(seen.pauses);
+  return real->xSleep(real, microseconds);
+}
+
 int onStatement(unsigned, void*, void* statement, void*) {
   run.emplace_back(sqlite3_sql(static_cast<sqlite3_stmt*>(statement)));
   return 0;
@@ -116,6 +124,7 @@ WatchedSqlite::WatchedSqlite() {
   watching.szOsFile = static_cast<int>(sizeof(WatchedFile)) + real->szOsFile;
   watching.xOpen = Open;
   watching.xDelete = Delete;
+  watching.xSleep = Sleep;
   sqlite3_vfs_register(&watching, 1);
   sqlite3_auto_extension(kOnConnection);
 }
@@ -124,6 +133,7 @@ WatchedSqlite::~WatchedSqlite() {
   sqlite3_cancel_auto_extension(kOnConnection);
   sqlite3_vfs_unregister(&watching);
   sqlite3_vfs_register(real, 1);
+  duringPause = nullptr;
 }
 
 FileTraffic WatchedSqlite::traffic() const {
@@ -132,6 +142,10 @@ FileTraffic WatchedSqlite::traffic() const {
 
 std::vector<std::string> WatchedSqlite::statements() const {
   return run;
+}
+
+void WatchedSqlite::setOnPause(std::function<void(int)> onPause) {
+  duringPause = std::move(onPause);
 }
 
 void WatchedSqlite::killAtChange(int number) {

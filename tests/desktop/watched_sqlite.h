@@ -1,6 +1,7 @@
 // Watches what SQLite does with its files, and can end the process in the middle of it.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,7 @@ struct FileTraffic {
   int reads = 0;
   int writes = 0;           // whatever changes a file: write, truncate, sync, delete
   int unsyncedDeletes = 0;  // the folder is left to the system
+  int pauses = 0;           // in waiting for other processes, of 5 ms each
 };
 
 // While it lives, every SQLite file that is opened is watched.
@@ -23,6 +25,9 @@ class WatchedSqlite {
 
   FileTraffic traffic() const;
   std::vector<std::string> statements() const;  // that were run
+
+  // Called in each pause, with its number, from 1.
+  void setOnPause(std::function<void(int)> onPause);
 
   // Kills this process with SIGKILL just before the change of that number, from 0.
   void killAtChange(int number);

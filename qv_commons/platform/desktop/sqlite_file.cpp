@@ -41,6 +41,15 @@ Statement prepare(sqlite3* database, const char* text, int& code) {
   return Statement(statement);
 }
 
+// What SQLite calls while another process holds the file, at each of a transaction's steps. Its own
+// way, the busy timeout, begins anew with each.
+int waitALittle(void* end, int) {
+  constexpr int kPauseMilliseconds = 5;
+  if (std::chrono::steady_clock::now() >= *static_cast<SqliteFile::TimePoint*>(end)) return 0;
+  sqlite3_sleep(kPauseMilliseconds);
+  return 1;
+}
+
 // -1 where there is no file, or none that can be looked at.
 off_t sizeOf(const std::string& path) {
   struct stat status = {};
@@ -75,9 +84,8 @@ SqliteFile::Contents SqliteFile::read() {
   }
 }
 
-Failure SqliteFile::write(const Values& changes, const Values& known,
-                          std::chrono::milliseconds patience) {
-  const Outcome outcome = tryWrite(changes, known, patience);
+Failure SqliteFile::write(const Values& changes, const Values& known, TimePoint end) {
+  const Outcome outcome = tryWrite(changes, known, end);
   return outcome == Outcome::done ? std::nullopt : Failure(failure_);
 }
 
@@ -133,21 +141,20 @@ SqliteFile::Outcome SqliteFile::readRows(Values& values) {
 }
 
 SqliteFile::Outcome SqliteFile::tryWrite(const Values& changes, const Values& known,
-                                         std::chrono::milliseconds patience) {
+                                         TimePoint end) {
   Outcome outcome = open(Mode::openOrMake);
   if (outcome != Outcome::done) return outcome;
-  sqlite3_busy_timeout(database_.get(), static_cast<int>(patience.count()));
+  sqlite3_busy_handler(database_.get(), waitALittle, &end);
   outcome = run(kSynchronous);
   if (outcome == Outcome::done) outcome = run("BEGIN IMMEDIATE");
-  if (outcome != Outcome::done) return outcome;
-  outcome = run(kMakeTable);
+  if (outcome == Outcome::done) outcome = run(kMakeTable);
   if (outcome == Outcome::done) outcome = insert(kFill, known);
   if (outcome == Outcome::done) outcome = insert(kWrite, changes);
   if (outcome == Outcome::done) outcome = run("COMMIT");
   if (outcome != Outcome::done) {
     sqlite3_exec(database_.get(), "ROLLBACK", nullptr, nullptr, nullptr);
   }
-  sqlite3_busy_timeout(database_.get(), 0);
+  sqlite3_busy_handler(database_.get(), nullptr, nullptr);
   return outcome;
 }
 

@@ -22,6 +22,7 @@ class SqliteFile {
   ~SqliteFile();
 
   using Values = std::map<std::string, bool, std::less<>>;
+  using TimePoint = std::chrono::steady_clock::time_point;
 
   // `busy` while another process writes, `absent` where there is no file yet.
   enum class State : std::uint8_t { whole, absent, busy, failed };
@@ -38,8 +39,8 @@ class SqliteFile {
 
   // In one transaction, which is on the disk when this returns: writes all of `changes`, and of
   // `known` what the file lacks. Makes the file (mode 0600) where there is none. Waits for other
-  // processes for as long as `patience`.
-  Failure write(const Values& changes, const Values& known, std::chrono::milliseconds patience);
+  // processes until `end`.
+  Failure write(const Values& changes, const Values& known, TimePoint end);
 
  private:
   enum class Outcome : std::uint8_t { done, absent, busy, failed, damaged };
@@ -48,7 +49,7 @@ class SqliteFile {
   Outcome open(Mode mode);
   Outcome tryRead(Values& values);
   Outcome readRows(Values& values);
-  Outcome tryWrite(const Values& changes, const Values& known, std::chrono::milliseconds patience);
+  Outcome tryWrite(const Values& changes, const Values& known, TimePoint end);
   Outcome insert(const char* text, const Values& values);
   Outcome run(const char* statement);
   Outcome outcomeOf(int code);

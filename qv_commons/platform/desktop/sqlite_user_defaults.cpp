@@ -43,7 +43,7 @@ SqliteUserDefaults::~SqliteUserDefaults() {
 
 bool SqliteUserDefaults::boolForKey(std::string_view key) const {
   if (const auto found = waiting_.find(key); found != waiting_.end()) return found->second;
-  refresh();
+  refresh(std::chrono::steady_clock::now() + kPatience);
   const auto found = known_.find(key);
   return found != known_.end() && found->second;
 }
@@ -72,29 +72,30 @@ void SqliteUserDefaults::commitWith(milliseconds patience) {
 // Both or a failure: what a user is told must be there whichever file the next start reads. Where
 // the file fails, the copy may still do.
 Failure SqliteUserDefaults::write(milliseconds patience) {
-  if (Failure failure = makePrivateFolder(folder_)) return failure;
-  if (known_.empty()) refresh();
-  const auto end = std::chrono::steady_clock::now() + patience;
-  const Failure failure = writeTo(file_, patience);
-  const auto left =
-      std::chrono::duration_cast<milliseconds>(end - std::chrono::steady_clock::now());
-  const Failure ofCopy = writeTo(copy_, std::max(left, milliseconds(0)));
+  if (const Failure failure = makePrivateFolder(folder_)) {
+    return "The settings are in the memory alone until they can be written. " + *failure;
+  }
+  const SqliteFile::TimePoint end = std::chrono::steady_clock::now() + patience;
+  if (known_.empty()) refresh(end);
+  const Failure failure = writeTo(file_, end);
+  const Failure ofCopy = writeTo(copy_, end);
   return failure ? failure : ofCopy;
 }
 
-Failure SqliteUserDefaults::writeTo(SqliteFile& file, milliseconds patience) {
-  Failure failure = file.write(waiting_, known_, patience);
+Failure SqliteUserDefaults::writeTo(SqliteFile& file, SqliteFile::TimePoint end) {
+  Failure failure = file.write(waiting_, known_, end);
   if (!failure) return std::nullopt;
   Failure damage;
   if (take(file, damage) != SqliteFile::State::absent) return failure;
   tell(damage);
-  return file.write(waiting_, known_, patience);
+  return file.write(waiting_, known_, end);
 }
 
-void SqliteUserDefaults::refresh() const {
-  const auto end = std::chrono::steady_clock::now() + (couldRead_ ? kPatience : milliseconds(0));
+// Waits once: not where the last attempt was in vain.
+void SqliteUserDefaults::refresh(SqliteFile::TimePoint end) const {
+  const bool waits = couldRead_;
   Failure failure;
-  while (!(couldRead_ = tryToRead(failure)) && std::chrono::steady_clock::now() < end) {
+  while (!(couldRead_ = tryToRead(failure)) && waits && std::chrono::steady_clock::now() < end) {
     std::this_thread::sleep_for(kPause);
   }
   if (!couldRead_) tell(failure);

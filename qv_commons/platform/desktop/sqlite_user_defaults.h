@@ -45,11 +45,11 @@ class SqliteUserDefaults final : public UserDefaults {
  private:
   using Milliseconds = std::chrono::milliseconds;
 
-  void refresh() const;
+  void refresh(SqliteFile::TimePoint end) const;
   bool tryToRead(Failure& failure) const;
   SqliteFile::State take(SqliteFile& file, Failure& failure) const;
   Failure write(Milliseconds patience);
-  Failure writeTo(SqliteFile& file, Milliseconds patience);
+  Failure writeTo(SqliteFile& file, SqliteFile::TimePoint end);
   void commitWith(Milliseconds patience);
   void tell(const Failure& failure) const;
 
