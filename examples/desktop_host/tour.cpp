@@ -67,7 +67,7 @@ void saveDraftAfterFailure(Stage& stage, DesktopSettings settings) {
 
 void showAlertWithoutMail(Stage& stage, DesktopSettings settings) {
   stage.note("== Contact support, where no mail can be sent");
-  settings.sendmailProgram = "/nonexistent/sendmail";
+  settings.mailWays.clear();
   Session session(std::move(settings), Device::playedPhone, kMinimumAge);
   session.window().show();
   stage.click(session.window(), "contactSupport");

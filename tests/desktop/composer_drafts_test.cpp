@@ -18,6 +18,16 @@ class ComposerDrafts : public ComposerTest {
     ASSERT_TRUE(waitUntil([&] { return !isOpen(); })) << noticeText();
   }
 
+  // Once it is there, the only one, and whole.
+  void expectTypedDraft() {
+    const auto isWhole = [&] {
+      const std::vector<std::string> names = drafts();
+      return names.size() == 1 && names.front().ends_with(".eml") && names.front()[0] != '.';
+    };
+    ASSERT_TRUE(waitUntil(isWhole));
+    EXPECT_THAT(onlyDraft(), HasSubstr("\n\nReason:\nx\nApp: x\n"));
+  }
+
   QPushButton& button() { return find<QPushButton>(*composer_, "drafts"); }
 
   QAction* actionFor(const std::string& subject) {
@@ -91,9 +101,9 @@ TEST_F(ComposerDrafts, KeepWhatWasTypedWhereTheHostTakesTheComposerAway) {
   open();
   press(*composer_, Qt::Key_X);
   screen_->dismissViewController(true, nullptr);
-  settle();
-  EXPECT_THAT(onlyDraft(), HasSubstr("\n\nReason:\nx\nApp: x\n"));
+  expectTypedDraft();
   composer_.reset();
+  settle();
   EXPECT_EQ(drafts().size(), 1U);
   EXPECT_THAT(delegate_->results, IsEmpty());
 }
@@ -122,8 +132,52 @@ TEST_F(ComposerDrafts, KeepTheMessageOfAComposerThatIsTakenAwayWhileItSends) {
   click(*composer_, "send");
   screen_->dismissViewController(true, nullptr);
   composer_.reset();
+  expectTypedDraft();
+}
+
+TEST_F(ComposerDrafts, KeepTheMessageOfAComposerThatIsTakenAwayWhileTheProgramRuns) {
+  useMailProgram("echo >\"" + folder_.path("started") + "\"; exec sleep 1000");
+  open();
+  press(*composer_, Qt::Key_X);
+  click(*composer_, "send");
+  ASSERT_TRUE(waitUntil([&] { return !readFile(folder_.path("started")).empty(); }));
+  screen_->dismissViewController(true, nullptr);
+  composer_.reset();
   settle();
+  expectTypedDraft();
+}
+
+TEST_F(ComposerDrafts, KeepTheMessageOfAComposerThatIsTakenAwayWhileItSaves) {
+  open();
+  press(*composer_, Qt::Key_X);
+  click(*composer_, "save");
+  screen_->dismissViewController(true, nullptr);
+  composer_.reset();
+  expectTypedDraft();
+}
+
+TEST_F(ComposerDrafts, KeepWhatWasTypedWhereThePlatformGoesWhileItSends) {
+  useMailProgram("exec sleep 1000");
+  open();
+  press(*composer_, Qt::Key_X);
+  click(*composer_, "send");
+  composer_.reset();
+  screen_.reset();
+  desktop_.reset();
   EXPECT_THAT(onlyDraft(), HasSubstr("\n\nReason:\nx\nApp: x\n"));
+}
+
+TEST_F(ComposerDrafts, TellTheHostWhatCouldNotBeKept) {
+  folder_.write("data", "a file in the folder's place");
+  std::vector<std::string> told;
+  settings_.onError = [&](const std::string& problem) { told.push_back(problem); };
+  open();
+  told.clear();  // what the settings' file has to say
+  press(*composer_, Qt::Key_X);
+  screen_->dismissViewController(true, nullptr);
+  ASSERT_TRUE(waitUntil([&] { return !told.empty(); }));
+  EXPECT_THAT(
+      told, ElementsAre("The folder " + folder_.path("data") + " can't be made: Not a directory."));
 }
 
 TEST_F(ComposerDrafts, OfKilledWritersAreGoneAtTheNextStart) {

@@ -21,6 +21,7 @@ class ComposerTest : public testing::Test {
  protected:
   ComposerTest() {
     settings_.dataDirectory = folder_.path("data");
+    settings_.mailWays = {MailWay::sendmail};  // whatever else this machine has
     settings_.senderAddress = "ada@example.com";
     useMailProgram("cat >\"" + folder_.path("sent") + "\"; echo \"$@\" >\"" +
                    folder_.path("arguments") + "\"");
@@ -35,8 +36,9 @@ class ComposerTest : public testing::Test {
   }
 
   // To be called once, after the settings have been made.
-  void open(const std::string& recipient = "support@example.com",
-            const std::string& subject = "Help", const std::string& body = "Reason:\n\nApp: x\n") {
+  void present(const std::string& recipient = "support@example.com",
+               const std::string& subject = "Help",
+               const std::string& body = "Reason:\n\nApp: x\n") {
     desktop_.emplace(settings_);
     screen_ = desktop_->viewController(host_);
     composer_ = desktop_->platform().viewControllers.makeMailComposer();
@@ -46,6 +48,12 @@ class ComposerTest : public testing::Test {
     composer_->setMailComposeDelegate(delegate_);
     composer_->addAttachment({"Zm9v", "Text/XML", "Receipt-Data.txt"});
     screen_->presentViewController(composer_, true, nullptr);
+  }
+
+  // The same, for a composer that the user is to work in.
+  void open(const std::string& recipient = "support@example.com",
+            const std::string& subject = "Help", const std::string& body = "Reason:\n\nApp: x\n") {
+    present(recipient, subject, body);
     ASSERT_TRUE(waitUntil([&] {
       return windowOf(*composer_).isActiveWindow() && QApplication::focusWidget() != nullptr;
     }));

@@ -159,7 +159,8 @@ TEST_F(ComposerWindows, AWindowThatIsClosedKeepsWhatWasTyped) {
   open();
   press(*composer_, Qt::Key_X);
   EXPECT_TRUE(host_.close());
-  EXPECT_EQ(drafts().size(), 1U);
+  ASSERT_TRUE(waitUntil([&] { return !drafts().empty(); }));
+  EXPECT_THAT(onlyDraft(), testing::HasSubstr("\n\nReason:\nx\nApp: x\n"));
   host_.show();
   EXPECT_TRUE(isOpen());
 }

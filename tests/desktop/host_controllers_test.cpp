@@ -37,7 +37,7 @@ class HostControllers : public testing::Test {
 
   ViewController* top() const { return QV_ViewControllerHelper::topViewController(window.get()); }
 
-  DesktopPlatform desktop{{.sendmailProgram = "/nonexistent"}};
+  DesktopPlatform desktop{{.mailWays = {}}};
   QStackedWidget pages;
   QWidget* first = new QWidget;
   QTabWidget* tabs = new QTabWidget;

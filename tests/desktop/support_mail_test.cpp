@@ -38,7 +38,10 @@ class SupportMail : public testing::Test {
     helper_->contactSupport(*screen_, "support@example.com", "Help", {}, std::nullopt, metadata,
                             host_);
     settle();
-    return *screen_->presentedViewController();
+    ViewController& shown = *screen_->presentedViewController();
+    const auto* attaching = windowOf(shown).findChild<QLabel*>("attaching");
+    EXPECT_TRUE(waitUntil([&] { return attaching == nullptr || attaching->isHidden(); }));
+    return shown;
   }
 
   // What the console says when a request is made, whose composer is then left.
@@ -63,6 +66,7 @@ class SupportMail : public testing::Test {
   QWidget window_;
   DesktopPlatform desktop_{{.bundleDirectory = folder_.path("bundle"),
                             .dataDirectory = folder_.path("data"),
+                            .mailWays = {MailWay::sendmail},
                             .sendmailProgram = folder_.writeProgram("sendmail", "cat >/dev/null"),
                             .senderAddress = "ada@example.com"}};
   ScopedPlatform scope_{desktop_.platform()};
@@ -127,18 +131,6 @@ TEST_F(SupportMail, AttachesAHundredMegabytes) {
   const std::string draft = onlyDraft();
   EXPECT_GT(draft.size(), 4 * (133'333'332 / 3));
   EXPECT_THAT(draft.substr(0, 2000), HasSubstr("\n\nZUhoNGVIaDRlSGg0"));
-}
-
-TEST_F(SupportMail, TakesAHundredThousandShortLines) {
-  std::string metadata;
-  for (int i = 0; i < 100'000; ++i) metadata += "a line #\n";
-  ViewController& composer = contactSupport(metadata);
-  press(composer, Qt::Key_X);
-  saveDraft(composer);
-  ASSERT_TRUE(waitUntil([&] { return host_->completions == 1; }));
-  const std::string draft = onlyDraft();
-  EXPECT_THAT(draft.substr(0, 2000), HasSubstr("\n\nReason for contacting support:\nx\n\n"));
-  EXPECT_TRUE(draft.ends_with("\nIAP: No=20\n" + metadata));
 }
 
 TEST_F(SupportMail, TellsTheHostOnceTheComposerIsGone) {

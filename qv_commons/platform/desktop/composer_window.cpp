@@ -72,6 +72,10 @@ QLabel* makeLabel(const QString& name, const QString& text, const char* role) {
   return label;
 }
 
+QString sizeText(std::size_t bytes) {
+  return QLocale().formattedDataSize(static_cast<qint64>(bytes), 1, QLocale::DataSizeSIFormat);
+}
+
 }  // namespace
 
 ComposerWindow::ComposerWindow(const Callbacks& callbacks) : callbacks_(callbacks) {
@@ -136,10 +140,16 @@ QWidget* ComposerWindow::makePage() {
   body_->setVerticalScrollBar(new ThinScrollBar(Qt::Vertical));
   body_->setMinimumHeight(qRound(120 * textScale()));
   addField(*layout, "Message", *body_, 1);
+  hidden_ = makeLabel("hidden", "", "caption");
+  hidden_->hide();
+  layout->addWidget(hidden_);
 
   attachments_ = new QVBoxLayout;
   attachments_->setSpacing(kGap / 2);
   layout->addLayout(attachments_);
+  attaching_ = makeLabel("attaching", "An attachment is being read…", "caption");
+  attaching_->hide();
+  layout->addWidget(attaching_);
   save_ = makeButton("save", "Save draft", Qt::ALT | Qt::Key_D, "secondary", callbacks_.save);
   layout->addWidget(save_);
   drafts_ = makeButton("drafts", "Open a draft", Qt::ALT | Qt::Key_R, "secondary", nullptr);
@@ -190,6 +200,9 @@ void ComposerWindow::setBody(std::string body) {
   disconnect(edits_);
   text_ = EditedText(std::move(body));
   body_->setPlainText(text_.shown());
+  const std::size_t hidden = text_.hiddenBytes();
+  hidden_->setText("And " + sizeText(hidden) + " more of this text, which are sent as they are.");
+  hidden_->setVisible(hidden != 0);
   edits_ =
       connect(body_->document(), &QTextDocument::contentsChange, this, &ComposerWindow::onEdited);
   // Below the opening line, where there is room for what the user has to say.
@@ -209,8 +222,7 @@ void ComposerWindow::onEdited(int position, int removed, int added) {
 
 void ComposerWindow::addAttachment(const MailAttachment& attachment) {
   const QString name = fromUtf8(attachment.fileName);
-  const QString size = QLocale().formattedDataSize(static_cast<qint64>(attachment.data.size()), 1,
-                                                   QLocale::DataSizeSIFormat);
+  const QString size = sizeText(attachment.data.size());
   auto* column = new QVBoxLayout;
   column->setSpacing(0);
   QLabel* nameLabel = makeLabel("attachmentName", breakable(name), "text");
@@ -224,6 +236,10 @@ void ComposerWindow::addAttachment(const MailAttachment& attachment) {
     column->addWidget(label);
   }
   attachments_->addLayout(column);
+}
+
+void ComposerWindow::showAttaching(bool isAttaching) {
+  attaching_->setVisible(isAttaching);
 }
 
 void ComposerWindow::clearAttachments() {

@@ -43,6 +43,9 @@ class ComposerWindow final : public QWidget {
   void addAttachment(const MailAttachment& attachment);
   void clearAttachments();
 
+  // That an attachment is yet to come.
+  void showAttaching(bool isAttaching);
+
   // Those that the user can open, in a menu; no menu without any.
   void showDrafts(const std::vector<DraftSummary>& drafts);
 
@@ -92,7 +95,9 @@ class ComposerWindow final : public QWidget {
   QLineEdit* recipients_ = nullptr;
   QLineEdit* subject_ = nullptr;
   QPlainTextEdit* body_ = nullptr;
+  QLabel* hidden_ = nullptr;
   QVBoxLayout* attachments_ = nullptr;
+  QLabel* attaching_ = nullptr;
   EditedText text_;
   QMetaObject::Connection edits_;  // taken in by `text_`
 };

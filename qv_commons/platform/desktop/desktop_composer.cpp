@@ -4,6 +4,7 @@
 #include <QDateTime>
 #include <QSysInfo>
 #include <QUuid>
+#include <algorithm>
 #include <filesystem>
 #include <pwd.h>
 #include <unistd.h>
@@ -12,7 +13,6 @@
 #include "qv_commons/platform/desktop/desktop_alert.h"
 #include "qv_commons/platform/desktop/desktop_style.h"
 #include "qv_commons/platform/desktop/mail_addresses.h"
-#include "qv_commons/platform/desktop/mail_drafts.h"
 #include "qv_commons/platform/desktop/qt_text.h"
 
 namespace qv_commons::desktop {
@@ -20,9 +20,6 @@ namespace {
 
 using Phase = ComposerWindow::Phase;
 using Severity = ComposerWindow::Severity;
-
-constexpr int kProgressMilliseconds = 100;
-constexpr const char* kEnding = ".eml";
 
 std::string hostName() {
   const std::string name = toUtf8(QSysInfo::machineHostName());
@@ -56,16 +53,13 @@ DesktopComposer::DesktopComposer(SharedContext context)
       window_(static_cast<ComposerWindow&>(content())),
       identity_(toUtf8(QUuid::createUuid().toString(QUuid::WithoutBraces))) {
   QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &progressTimer_,
-                   [this] { keepWhatWasTyped(); });
-  QObject::connect(&progressTimer_, &QTimer::timeout, &progressTimer_, [this] {
-    if (work_.isRunning()) window_.showProgress(output_->progress());
-  });
+                   [this] { finish(); });
+  QObject::connect(&progressTimer_, &QTimer::timeout, &progressTimer_, [this] { showProgress(); });
   listDrafts();
 }
 
 DesktopComposer::~DesktopComposer() {
-  work_.finish();
-  keepWhatWasTyped();
+  finish();
   window_.forgetCallbacks();  // the window may live a little longer
 }
 
@@ -81,29 +75,85 @@ void DesktopComposer::userLeaves() {
 
 void DesktopComposer::show(bool animated) {
   isOver_ = false;
+  release();
   SheetController::show(animated);
+  if (goesToDesktop()) handOver();
 }
 
 void DesktopComposer::hide(bool animated) {
+  giveUpDelivery();
   keepWhatWasTyped();
+  if (!waiting_) preparation_.stop();
   isOver_ = true;
   SheetController::hide(animated);
-}
-
-// Once for all when the composer goes; as often as its window is hidden before.
-void DesktopComposer::keepWhatWasTyped() {
-  if (isBusy() || isOver_ || isSaved_ || !window_.isChanged()) return;
-  MailOutput output(message(), context().draftDirectory(), identity_ + kEnding);
-  output.write(MailOutput::Use::keep, false);
-  if (output.failure()) context().reportError(*output.failure());
-}
-
-void DesktopComposer::send() {
-  if (const std::optional<MailProblem> problem = findProblem(message())) {
-    window_.showNotice(fromUtf8(problem->sentence), Severity::error);
-    return window_.focusField(problem->field);
+  if (isBusy() || preparation_.isRunning()) {
+    context().unfinished.push_back(std::shared_ptr<Unfinished>(retained(), this));
   }
-  write("Sending…", MailOutput::Use::send, [this] { deliver(); });
+}
+
+// The composer may be destroyed by this, but for what is running at this moment.
+void DesktopComposer::release() {
+  std::vector<std::shared_ptr<Unfinished>>& list = context().unfinished;
+  const auto self =
+      std::find_if(list.begin(), list.end(), [this](auto& other) { return other.get() == this; });
+  if (self == list.end()) return;
+  afterTransition([kept = *self] {});
+  list.erase(self);
+}
+
+bool DesktopComposer::isBusy() const {
+  return work_.isRunning() || waiting_ || handOver_ || (sender_ != nullptr && sender_->isRunning());
+}
+
+void DesktopComposer::prepare(const std::function<void()>& work,
+                              const std::function<void()>& done) {
+  if (preparation_.isRunning()) return MailComposer::prepare(work, done);
+  attach_ = done;
+  window_.showAttaching(true);
+  preparation_.start([work](const std::atomic<bool>&) { work(); }, [this] { onPrepared(); });
+}
+
+void DesktopComposer::onPrepared() {
+  window_.showAttaching(false);
+  const std::function<void()> attach = std::exchange(attach_, nullptr);
+  if (!preparation_.isStopped()) attach();
+  if (const std::function<void()> waiting = std::exchange(waiting_, nullptr)) return waiting();
+  if (isOver_) release();
+}
+
+void DesktopComposer::whenWhole(const QString& notice, std::function<void()> action) {
+  window_.setPhase(Phase::sending);
+  window_.showNotice(notice, Severity::info);
+  if (!preparation_.isRunning()) return action();
+  waiting_ = std::move(action);
+}
+
+void DesktopComposer::write(const QString& notice, MailOutput::Use use,
+                            std::function<void()> done) {
+  whenWhole(notice, [this, use, done = std::move(done)] { startWriting(use, done); });
+}
+
+void DesktopComposer::startWriting(MailOutput::Use use, std::function<void()> done) {
+  output_ =
+      std::make_shared<MailOutput>(message(), context().draftDirectory(), identity_ + kDraftEnding);
+  progressTimer_.start(kProgressMilliseconds);
+  work_.start([output = output_,
+               use](const std::atomic<bool>& isStopped) { output->write(use, isStopped); },
+              [this, done = std::move(done)] {
+                hideProgress();
+                isOnDisk_ = !output_->noDraft();
+                isOver_ ? onWrittenUnseen() : done();
+              });
+}
+
+void DesktopComposer::showProgress() {
+  const double done = handOver_ ? handOver_->progress() : output_->progress();
+  done < 1 ? window_.showProgress(done) : window_.hideProgress();
+}
+
+void DesktopComposer::hideProgress() {
+  progressTimer_.stop();
+  window_.hideProgress();
 }
 
 void DesktopComposer::save() {
@@ -116,58 +166,25 @@ void DesktopComposer::save() {
   });
 }
 
-void DesktopComposer::write(const QString& notice, MailOutput::Use use,
-                            std::function<void()> done) {
-  window_.setPhase(Phase::sending);
-  window_.showNotice(notice, Severity::info);
-  output_ =
-      std::make_shared<MailOutput>(message(), context().draftDirectory(), identity_ + kEnding);
-  progressTimer_.start(kProgressMilliseconds);
-  work_.start([output = output_,
-               use](const std::atomic<bool>& isStopped) { output->write(use, isStopped); },
-              [this, done = std::move(done)] {
-                progressTimer_.stop();
-                window_.hideProgress();
-                done();
-              });
-}
-
-void DesktopComposer::deliver() {
-  const DesktopSettings& settings = context().settings;
-  if (output_->wasStopped()) return onDelivered("Sending was stopped.");
-  if (output_->failure()) return onDelivered(output_->failure());
-  const QString program = findMailProgram(settings.sendmailProgram);
-  if (program.isEmpty()) return onDelivered("This computer has no mail program.");
-  if (output_->noDraft()) {
-    window_.showNotice(fromUtf8("Sending… No copy is kept: " + *output_->noDraft()),
-                       Severity::info);
-  }
-  QStringList arguments;
-  for (const std::string& argument : settings.sendmailArguments) {
-    arguments.append(fromUtf8(argument));
-  }
-  sender_ = std::make_unique<MailSender>(program, arguments + QStringList{"-t", "-i"},
-                                         fromUtf8(output_->file()), settings.sendTimeout,
-                                         [this](const Failure& failure) { onDelivered(failure); });
-}
-
-void DesktopComposer::onDelivered(const Failure& failure) {
-  if (!failure) return removeCopyAndLeave(MailComposeResult::sent);
-  const bool isKept = !output_->wasStopped() && !output_->noDraft();
-  edit("Not sent. " + *failure +
-       (isKept                                         ? "\nA copy is kept as " + draftPath() + "."
-        : output_->noDraft() && !output_->wasStopped() ? "\nNo copy is kept: " + *output_->noDraft()
-                                                       : ""));
-}
-
 // The window is the user's again.
-void DesktopComposer::edit(const std::string& notice) {
+void DesktopComposer::unlock() {
+  isOnDisk_ = false;
   window_.setPhase(Phase::editing);
+  window_.hideNotice();
+}
+
+void DesktopComposer::edit(const std::string& notice) {
+  unlock();
   window_.showNotice(fromUtf8(notice), Severity::error);
 }
 
 void DesktopComposer::cancel() {
+  if (std::exchange(waiting_, nullptr)) return edit("Stopped. Your message is still here.");
   if (work_.isRunning()) return work_.stop();
+  if (handOver_) {
+    return onHandedOver(MailHandOver::Outcome::failed,
+                        "It was stopped. Your mail program may open all the same.");
+  }
   if (isBusy()) {
     return sender_->stop("Sending was stopped. The message may have been sent all the same.");
   }
@@ -199,71 +216,28 @@ void DesktopComposer::removeCopyAndLeave(MailComposeResult result) {
         std::error_code ignored;
         std::filesystem::remove(path, ignored);
       },
-      [this, result] { leave(result); });
+      [this, result] { isOver_ ? release() : leave(result); });
 }
 
-void DesktopComposer::openDraft(const std::string& name) {
-  struct Opened {
-    Failure notKept;
-    Result<MailMessage> draft;
-  };
-  const auto opened = std::make_shared<Opened>();
-  std::shared_ptr<MailOutput> kept;
-  if (window_.isChanged()) {
-    kept = std::make_shared<MailOutput>(message(), context().draftDirectory(), identity_ + kEnding);
-  }
-  window_.setPhase(Phase::left);
-  work_.start(
-      [opened, kept,
-       path = context().draftDirectory() + "/" + name](const std::atomic<bool>& isStopped) {
-        if (kept) kept->write(MailOutput::Use::keep, isStopped);
-        if (kept) opened->notKept = kept->failure();
-        if (!opened->notKept) opened->draft = readDraft(path);
-      },
-      [this, opened, name] {
-        if (opened->notKept) return edit("Your message is still here. " + *opened->notKept);
-        if (!opened->draft.value) return edit(opened->draft.failure);
-        fill(*opened->draft.value, name);
-      });
-}
-
-void DesktopComposer::fill(const MailMessage& draft, const std::string& name) {
-  window_.setRecipients(draft.recipients);
-  window_.setSubject(draft.subject);
-  window_.setBody(draft.body);
-  window_.clearAttachments();
-  for (const SharedAttachment& attachment : draft.attachments) window_.addAttachment(*attachment);
-  attachments_ = draft.attachments;
-  isHTML_ = draft.isHTML;
-  identity_ = name.substr(0, name.size() - std::char_traits<char>::length(kEnding));
-  isDraft_ = true;
-  window_.setPhase(Phase::editing);
-  window_.hideNotice();
-  listDrafts();
-}
-
-void DesktopComposer::listDrafts() {
-  const auto drafts = std::make_shared<std::vector<DraftSummary>>();
-  if (lister_.isRunning()) return;
-  lister_.start([drafts, folder = context().draftDirectory()](
-                    const std::atomic<bool>&) { *drafts = desktop::listDrafts(folder); },
-                [this, drafts] { window_.showDrafts(*drafts); });
-}
-
-MailMessage DesktopComposer::message() const {
+MailMessage DesktopComposer::envelope() const {
   const std::string& sender = context().settings.senderAddress;
   return {.sender = sender.empty() ? defaultSender() : sender,
           .recipients = window_.recipients(),
           .subject = window_.subject(),
-          .body = window_.body(),
           .isHTML = isHTML_,
           .attachments = attachments_,
           .date = QDateTime::currentSecsSinceEpoch(),
           .messageId = identity_ + "@" + hostName()};
 }
 
+MailMessage DesktopComposer::message() const {
+  MailMessage message = envelope();
+  message.body = window_.body();
+  return message;
+}
+
 std::string DesktopComposer::draftPath() const {
-  return context().draftDirectory() + "/" + identity_ + kEnding;
+  return context().draftDirectory() + "/" + identity_ + kDraftEnding;
 }
 
 void DesktopComposer::leave(MailComposeResult result) {

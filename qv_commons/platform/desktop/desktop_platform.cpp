@@ -12,6 +12,7 @@
 #include "qv_commons/platform/desktop/host_controller.h"
 #include "qv_commons/platform/desktop/icu_calendar.h"
 #include "qv_commons/platform/desktop/mail_drafts.h"
+#include "qv_commons/platform/desktop/mail_hand_over.h"
 #include "qv_commons/platform/desktop/sheet_accessibility.h"
 #include "qv_commons/platform/desktop/sqlite_user_defaults.h"
 
@@ -46,14 +47,15 @@ struct DesktopPlatform::Parts {
 // those to the parts that are about to go.
 DesktopPlatform::Parts::~Parts() {
   context->presentations.dismissAll();
+  for (const auto& unfinished : std::exchange(context->unfinished, {})) unfinished->finish();
   QCoreApplication::removePostedEvents(&context->transitions);
 }
 
 DesktopPlatform::DesktopPlatform(DesktopSettings settings) {
   installAccessibility();
-  auto context = std::make_shared<DesktopContext>();
-  context->settings = std::move(settings);
+  auto context = std::make_shared<DesktopContext>(std::move(settings));
   removeUnfinishedDrafts(context->draftDirectory());
+  removeOldHandedMail(context->handedMailDirectory());
   parts_ = std::make_unique<Parts>(std::move(context));
 }
 

@@ -6,12 +6,11 @@
 #include "qv_commons/platform/desktop/desktop_alert.h"
 #include "qv_commons/platform/desktop/desktop_composer.h"
 #include "qv_commons/platform/desktop/layout_search.h"
-#include "qv_commons/platform/desktop/mail_sender.h"
 
 namespace qv_commons::desktop {
 
 bool DesktopViewControllers::canSendMail() const {
-  return !findMailProgram(context_->settings.sendmailProgram).isEmpty();
+  return !context_->mailWays.present().empty();
 }
 
 std::shared_ptr<MailComposer> DesktopViewControllers::makeMailComposer() {

@@ -11,9 +11,13 @@ class DesktopViewControllers final : public ViewControllers {
   DesktopViewControllers(SharedContext context, const ScreenServices& services)
       : context_(std::move(context)), services_(services) {}
 
-  // Whether there is a mail program at this moment.
+  // Whether one of the settings' ways for mail is there at this moment.
   bool canSendMail() const override;
 
+  // Where the message goes to the desktop's own mail program, this composer shows that it is being
+  // handed over, and is gone once it is; its result is `saved` then, since nobody tells what the
+  // user does there. Else, and where the desktop did not take the message:
+  //
   // The composer stays open until its message is sent or saved or the user cancels. A message that
   // can't be sent stays as it was typed, and from the first attempt on a copy is kept as a draft.
   std::shared_ptr<MailComposer> makeMailComposer() override;

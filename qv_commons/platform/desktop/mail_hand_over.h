@@ -2,7 +2,7 @@
 //
 //     const Result<HandedMail> mail = makeHandedMail(message, folder, "1", isStopped);
 //     if (!mail.value) return showNotice(mail.failure);
-//     handOver = std::make_unique<PortalMail>(*mail.value, window, done);
+//     attempt = std::make_unique<PortalMail>(*mail.value, window, done);
 #pragma once
 
 #include <QString>

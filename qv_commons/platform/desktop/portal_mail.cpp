@@ -92,8 +92,8 @@ void PortalMail::listenTo(const QString& request) {
 void PortalMail::onAccepted() {
   const QDBusPendingReply<QDBusObjectPath> reply = *call_;
   if (reply.isError()) {
-    return finish(Outcome::failed, "The desktop's mail portal says: " +
-                                       toUtf8(reply.error().message()) + ".");
+    return finish(Outcome::failed,
+                  "The desktop's mail portal says: " + toUtf8(reply.error().message()) + ".");
   }
   // Portals from before the rule choose a path of their own.
   if (reply.value().path() != request_) listenTo(reply.value().path());

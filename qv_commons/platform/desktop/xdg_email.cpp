@@ -9,8 +9,6 @@
 namespace qv_commons::desktop {
 namespace {
 
-constexpr int kLongestMilliseconds = 10'000;
-
 QStringList argumentsFor(const HandedMail& mail) {
   QStringList arguments{"--utf8", "--subject", mail.subject, "--body", mail.body};
   for (const QString& file : mail.files) arguments << "--attach" << file;
@@ -42,7 +40,8 @@ QString findXdgEmail() {
   return QStandardPaths::findExecutable("xdg-email");
 }
 
-XdgEmail::XdgEmail(const HandedMail& mail, Done done) : done_(std::move(done)) {
+XdgEmail::XdgEmail(const HandedMail& mail, Done done, std::chrono::milliseconds longest)
+    : done_(std::move(done)) {
   QObject::connect(
       process_.get(), &QProcess::finished, &timer_,
       [this](int exitCode, QProcess::ExitStatus status) { onFinished(exitCode, status); });
@@ -56,7 +55,7 @@ XdgEmail::XdgEmail(const HandedMail& mail, Done done) : done_(std::move(done)) {
       Qt::QueuedConnection);
   QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { finish(Outcome::opened); });
   timer_.setSingleShot(true);
-  timer_.start(kLongestMilliseconds);
+  timer_.start(longest);
   process_->setStandardInputFile(QProcess::nullDevice());
   process_->setStandardOutputFile(QProcess::nullDevice());
   process_->setStandardErrorFile(QProcess::nullDevice());

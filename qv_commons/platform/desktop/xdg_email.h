@@ -4,6 +4,7 @@
 #include <QProcess>
 #include <QString>
 #include <QTimer>
+#include <chrono>
 #include <memory>
 
 #include "qv_commons/platform/desktop/mail_hand_over.h"
@@ -13,11 +14,12 @@ namespace qv_commons::desktop {
 // In PATH; empty where it is not.
 QString findXdgEmail();
 
-// Where xdg-email does not come back, it has become the mail program: that has opened then, and
-// goes on when this is destroyed.
 class XdgEmail final : public MailHandOver {
  public:
-  XdgEmail(const HandedMail& mail, Done done);
+  // Where xdg-email has not come back after `longest`, it has become the mail program: that has
+  // opened then, and goes on when this is destroyed.
+  XdgEmail(const HandedMail& mail, Done done,
+           std::chrono::milliseconds longest = std::chrono::seconds(10));
   ~XdgEmail() override;
 
  private:

@@ -1,0 +1,189 @@
+// A receipt of 100 MB and ten megabytes of short lines: what the main thread has to do with them,
+// and how much memory they take.
+//
+// The main thread's share is counted in pages that it touches for the first time. With
+// QV_PRINT_TIMES=1 in the environment, the longest time that the window was held is printed too.
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTimer>
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <gmock/gmock.h>
+#include <sys/prctl.h>
+#include <sys/resource.h>
+
+#include "qv_commons/support/support_helper.h"
+
+#include "tests/desktop/desktop_driver.h"
+#include "tests/support_code/sanitized.h"
+
+namespace qv_commons::desktop {
+namespace {
+
+constexpr std::size_t kReceipt = 99'999'999;
+constexpr long kPage = 4096;
+
+long mainThreadPages() {
+  rusage usage = {};
+  ::getrusage(RUSAGE_THREAD, &usage);
+  return usage.ru_minflt;
+}
+
+// From /proc/self/status, in KB.
+long memory(const std::string& name) {
+  const std::string status = readFile("/proc/self/status");
+  return std::stol(status.substr(status.find("\n" + name + ":") + name.size() + 2));
+}
+
+// The event loop's longest turn.
+class Heartbeat {
+ public:
+  Heartbeat() {
+    sinceLast_.start();
+    QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] {
+      longest_ = std::max(longest_, sinceLast_.nsecsElapsed());
+      sinceLast_.start();
+    });
+    timer_.start(0);
+  }
+
+  double takeMilliseconds() { return static_cast<double>(std::exchange(longest_, 0)) / 1e6; }
+
+ private:
+  QTimer timer_;
+  QElapsedTimer sinceLast_;
+  qint64 longest_ = 0;
+};
+
+struct Host final : QV_SupportHelperDelegate {
+  int completions = 0;
+  void onCompletion() override { ++completions; }
+};
+
+class LargeMail : public testing::Test {
+ protected:
+  void SetUp() override {
+    if (test::kIsSanitized) GTEST_SKIP() << "a sanitizer's memory is its own";
+    folder_.write("bundle/Info.plist", "<plist version=\"1.0\"><dict/></plist>");
+    ::prctl(PR_SET_THP_DISABLE, 1, 0, 0, 0);  // one page is one page
+    window_.resize(375, 667);
+    window_.show();
+    window_.activateWindow();
+    contactSupport();
+    click(composer(), "cancel");  // what is loaded and made once is there now
+    ASSERT_TRUE(waitForLong([&] { return host_->completions == 1; }));
+    start();
+  }
+  void TearDown() override { ::prctl(PR_SET_THP_DISABLE, 0, 0, 0, 0); }
+
+  void start() {
+    std::ofstream("/proc/self/clear_refs") << "5";  // forgets the most that was taken so far
+    base_ = memory("VmRSS");
+    finishStep("");
+  }
+
+  ViewController& composer() { return *screen_->presentedViewController(); }
+
+  void contactSupport(const std::string& metadata = "") {
+    helper_->contactSupport(*screen_, "support@example.com", "Help", {}, std::nullopt, metadata,
+                            host_);
+    ASSERT_TRUE(waitForLong([&] { return find<QLabel>(composer(), "attaching").isHidden(); }));
+  }
+
+  // A slow disk, on a machine that others use.
+  static bool waitForLong(const std::function<bool()>& condition) {
+    for (int i = 0; i < 6; ++i) {
+      if (waitUntil(condition)) return true;
+    }
+    return false;
+  }
+
+  // The pages that the main thread has touched since the last step; and says how long it took.
+  long finishStep(const char* name) {
+    settle();
+    const double held = heartbeat_.takeMilliseconds();
+    if (qEnvironmentVariableIsSet("QV_PRINT_TIMES") && *name != '\0') {
+      std::printf("%-22s held the window for %6.1f ms at most; %4ld MB at most so far\n", name,
+                  held, (memory("VmHWM") - base_) / 1000);
+    }
+    return mainThreadPages() - std::exchange(pages_, mainThreadPages());
+  }
+
+  TestFolder folder_;
+  QWidget window_;
+  DesktopPlatform desktop_{{.bundleDirectory = folder_.path("bundle"),
+                            .dataDirectory = folder_.path("data"),
+                            .mailWays = {MailWay::sendmail},
+                            .sendmailProgram = folder_.writeProgram("sendmail", "cat >/dev/null"),
+                            .senderAddress = "ada@example.com"}};
+  ScopedPlatform scope_{desktop_.platform()};
+  std::shared_ptr<ViewController> screen_ = desktop_.viewController(window_);
+  std::shared_ptr<QV_SupportHelper> helper_ = QV_SupportHelper::create();
+  std::shared_ptr<Host> host_ = std::make_shared<Host>();
+  Heartbeat heartbeat_;
+  long base_ = 0;
+  long pages_ = 0;
+};
+
+// A twentieth of the receipt, on the way of all 233 MB that a step touches at least.
+constexpr long kFewPages = static_cast<long>(kReceipt) / 20 / kPage;
+
+TEST_F(LargeMail, WithAReceiptIsNotTheMainThreadsWork) {
+  folder_.write("bundle/StoreKit/receipt", std::string(kReceipt, 'x'));
+  start();
+  contactSupport();
+  EXPECT_EQ(find<QLabel>(composer(), "attachmentSize").text(), "133.3 MB");
+  EXPECT_LT(finishStep("open"), kFewPages);
+
+  saveDraft(composer());
+  ASSERT_TRUE(waitForLong([&] { return host_->completions == 2; }));
+  EXPECT_LT(finishStep("save"), kFewPages);
+  const std::uintmax_t message =
+      std::filesystem::file_size(folder_.path("data/drafts/" + folder_.list("data/drafts").at(0)));
+
+  contactSupport();
+  finishStep("open again");
+  auto& drafts = find<QPushButton>(composer(), "drafts");
+  ASSERT_TRUE(waitForLong([&] { return drafts.isVisible(); }));
+  drafts.menu()->actions().at(0)->trigger();
+  ASSERT_TRUE(waitForLong([&] { return !drafts.isEnabled(); }));
+  ASSERT_TRUE(waitForLong([&] { return drafts.isEnabled(); }));
+  EXPECT_LT(finishStep("open the draft"), kFewPages);
+
+  click(composer(), "send");
+  ASSERT_TRUE(waitForLong([&] { return host_->completions == 3; }));
+  EXPECT_LT(finishStep("send"), kFewPages);
+  EXPECT_LT(memory("VmHWM") - base_, static_cast<long>(2 * message / 1024));
+}
+
+// As many lines as the text field takes in at once, however many there are; and all are sent.
+TEST_F(LargeMail, OfShortLinesShowsItsBeginning) {
+  std::string metadata;
+  for (int i = 0; i < 1'000'000; ++i) metadata += "a line ##\n";
+  start();
+  contactSupport(metadata);
+  finishStep("a million lines");
+  EXPECT_EQ(find<QPlainTextEdit>(composer(), "body").blockCount(), 5000);
+  EXPECT_EQ(find<QLabel>(composer(), "hidden").text(),
+            "And 10.0 MB more of this text, which are sent as they are.");
+  EXPECT_TRUE(find<QLabel>(composer(), "hidden").isVisible());
+
+  press(composer(), Qt::Key_X);
+  finishStep("type");
+  saveDraft(composer());
+  ASSERT_TRUE(waitForLong([&] { return host_->completions == 2; }));
+  finishStep("save");
+  const std::string draft =
+      readFile(folder_.path("data/drafts/" + folder_.list("data/drafts").at(0)));
+  EXPECT_THAT(draft.substr(0, 2000),
+              testing::HasSubstr("\n\nReason for contacting support:\nx\n\n"));
+  EXPECT_TRUE(draft.ends_with("\nIAP: No=20\n" + metadata));
+}
+
+}  // namespace
+}  // namespace qv_commons::desktop
