@@ -44,7 +44,7 @@ class DesktopAdapter final : public Adapter {
     settings_.userInterfaceStyle = style;
   }
   void useMail(bool available) override {
-    settings_.mailWays = {MailWay::sendmail};
+    settings_.mailWays = {desktop::MailWay::sendmail};
     settings_.sendmailProgram =
         available ? folder_.writeProgram("sendmail", "cat >/dev/null") : folder_.path("none");
   }

@@ -74,8 +74,12 @@ class LargeMail : public testing::Test {
     window_.resize(375, 667);
     window_.show();
     window_.activateWindow();
+    // What is loaded and made once is there afterwards.
+    const std::string draft = folder_.write("data/drafts/small.eml", "Subject: Help\n\n");
     contactSupport();
-    click(composer(), "cancel");  // what is loaded and made once is there now
+    ASSERT_TRUE(waitForLong([&] { return find<QPushButton>(composer(), "drafts").isVisible(); }));
+    ASSERT_EQ(std::remove(draft.c_str()), 0);
+    click(composer(), "cancel");
     ASSERT_TRUE(waitForLong([&] { return host_->completions == 1; }));
     start();
   }
@@ -168,7 +172,7 @@ TEST_F(LargeMail, OfShortLinesShowsItsBeginning) {
   start();
   contactSupport(metadata);
   finishStep("a million lines");
-  EXPECT_EQ(find<QPlainTextEdit>(composer(), "body").blockCount(), 5000);
+  EXPECT_EQ(find<QPlainTextEdit>(composer(), "body").blockCount(), 2000);
   EXPECT_EQ(find<QLabel>(composer(), "hidden").text(),
             "And 10.0 MB more of this text, which are sent as they are.");
   EXPECT_TRUE(find<QLabel>(composer(), "hidden").isVisible());

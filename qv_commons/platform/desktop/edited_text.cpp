@@ -13,8 +13,8 @@ namespace {
 constexpr std::size_t kLongestShownLine = 1000;
 
 // What a text widget takes in within a frame or two.
-constexpr std::size_t kMostShownLines = 5000;
-constexpr std::size_t kMostShownBytes = 500'000;
+constexpr std::size_t kMostShownLines = 2000;
+constexpr std::size_t kMostShownBytes = 200'000;
 
 // Where to part a line that is too long: after a blank, or at least between two characters.
 std::size_t lengthOfPiece(std::string_view line) {

@@ -8,7 +8,7 @@
 //     text.replace(0, 5, "new");               // the user types over the first word
 //     std::string bytes = text.bytes();        // "new\r\nlast\r\n"
 //
-// They also take seconds to fill with a million lines: of a text of more than 5,000 lines or 500 KB
+// They also take seconds to fill with a million lines: of a text of more than 2,000 lines or 200 KB
 // only the beginning is shown and can be edited.
 //
 // Places and lengths count UTF-16 code units of what is shown.
