@@ -58,7 +58,7 @@ class Bundles {
   virtual std::shared_ptr<Bundle> bundleWithURL(const FileLocation& location) const = 0;
 
   // The whole file at `location`. A folder, a missing or an unreadable file gives no bytes and a
-  // description. Any thread.
+  // description.
   virtual FileContents read(const FileLocation& location) const = 0;
 };
 

@@ -63,7 +63,7 @@ class DesktopBundles final : public Bundles {
   const Bundle& mainBundle() const override { return main_; }
   const Bundle& libraryBundle() const override { return library_; }
   std::shared_ptr<Bundle> bundleWithURL(const FileLocation& location) const override;
-  FileContents read(const FileLocation& location) const override;
+  FileContents read(const FileLocation& location) const override;  // any thread
 
  private:
   const DesktopContext& context_;
