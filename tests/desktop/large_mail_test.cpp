@@ -7,7 +7,9 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPlainTextEdit>
+#include <QProgressBar>
 #include <QPushButton>
+#include <QTextEdit>
 #include <QTimer>
 #include <algorithm>
 #include <cstdio>
@@ -163,6 +165,28 @@ TEST_F(LargeMail, WithAReceiptIsNotTheMainThreadsWork) {
   ASSERT_TRUE(waitForLong([&] { return host_->completions == 3; }));
   EXPECT_LT(finishStep("send"), kFewPages);
   EXPECT_LT(memory("VmHWM") - base_, static_cast<long>(2 * message / 1024));
+}
+
+TEST_F(LargeMail, ShowsHowFarItIsAndCanBeStopped) {
+  folder_.write("bundle/StoreKit/receipt", std::string(kReceipt, 'x'));
+  contactSupport();
+  const auto& progress = find<QProgressBar>(composer(), "progress");
+  EXPECT_TRUE(progress.isHidden());
+  click(composer(), "save");
+  std::vector<int> shown;
+  ASSERT_TRUE(waitForLong([&] {
+    if (progress.isVisible()) shown.push_back(progress.value());
+    return !shown.empty() && shown.back() > 0;
+  }));
+  EXPECT_TRUE(std::is_sorted(shown.begin(), shown.end()));
+  EXPECT_LT(shown.back(), 100);
+  click(composer(), "cancel");  // Stop
+  const auto& notice = find<QTextEdit>(composer(), "notice");
+  ASSERT_TRUE(
+      waitForLong([&] { return notice.toPlainText() == "Not saved. Saving was stopped."; }));
+  EXPECT_TRUE(progress.isHidden());
+  EXPECT_TRUE(find<QPushButton>(composer(), "save").isEnabled());
+  EXPECT_THAT(folder_.list("data/drafts"), testing::IsEmpty());
 }
 
 // As many lines as the text field takes in at once, however many there are; and all are sent.
