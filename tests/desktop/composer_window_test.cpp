@@ -165,6 +165,19 @@ TEST_F(ComposerWindows, AWindowThatIsClosedKeepsWhatWasTyped) {
   EXPECT_TRUE(isOpen());
 }
 
+TEST_F(ComposerWindows, WhatAClosedWindowKeptGoesWithADiscardedMessage) {
+  open();
+  press(*composer_, Qt::Key_X);
+  host_.close();
+  host_.show();
+  settle();
+  click(*composer_, "cancel");
+  settle();
+  click(*composer_->presentedViewController(), "action1");  // Discard
+  ASSERT_TRUE(waitUntil([&] { return !isOpen(); }));
+  EXPECT_THAT(drafts(), IsEmpty());
+}
+
 TEST_F(ComposerWindows, EscapeDoesNothingWhereTheScreenIsModal) {
   open();
   composer_->setModalInPresentation(true);
