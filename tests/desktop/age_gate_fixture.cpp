@@ -12,6 +12,8 @@
 #include "qv_commons/age_gate/age_gate_helper.h"
 #include "qv_commons/platform/desktop/sheet.h"
 
+#include "tests/desktop/active_window.h"
+
 namespace qv_commons::desktop {
 
 OpenedLinks::OpenedLinks() {
@@ -67,7 +69,7 @@ void AgeGateTest::restart(DesktopSettings settings) {
   window_ = std::make_unique<QWidget>();
   window_->resize(size_);
   window_->show();
-  window_->activateWindow();  // where there is no window manager that does it
+  activate(*window_);
   desktop_ = std::make_unique<DesktopPlatform>(std::move(settings));
   const Platform& real = desktop_->platform();
   platform_ = std::make_unique<Platform>(Platform{.bundles = real.bundles,
@@ -91,7 +93,6 @@ void AgeGateTest::startAgeGate(std::int64_t minimumAge) {
       },
       theme_, privacyLink_, termsLink_);
   QTest::qWait(1);
-  EXPECT_TRUE(QTest::qWaitForWindowActive(window_.get()));
 }
 
 QWidget* AgeGateTest::screenWith(const char* view) {

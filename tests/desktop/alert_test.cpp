@@ -7,6 +7,7 @@
 
 #include "qv_commons/platform/desktop/sheet.h"
 
+#include "tests/desktop/active_window.h"
 #include "tests/desktop/desktop_driver.h"
 
 namespace qv_commons::desktop {
@@ -20,8 +21,7 @@ class AlertWindows : public testing::Test {
   AlertWindows() {
     host_.resize(375, 667);
     host_.show();
-    host_.activateWindow();  // where there is no window manager that does it
-    settle();
+    activate(host_);
   }
 
   void addAction(const std::string& title, AlertActionStyle style) {

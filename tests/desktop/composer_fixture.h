@@ -13,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/desktop/active_window.h"
 #include "tests/desktop/desktop_driver.h"
 
 namespace qv_commons::desktop {
@@ -27,8 +28,7 @@ class ComposerTest : public testing::Test {
                    folder_.path("arguments") + "\"");
     host_.resize(375, 667);
     host_.show();
-    host_.activateWindow();  // where there is no window manager that does it
-    settle();
+    activate(host_);
   }
 
   void useMailProgram(const std::string& script) {

@@ -115,6 +115,13 @@ TEST_F(HostControllers, OfAWidgetThatIsGoneShowNothing) {
   EXPECT_NE(desktop.viewController(*replacement), page);
 }
 
+TEST_F(HostControllers, AreOthersForAnotherWidgetAtTheSameAddress) {
+  std::optional<QWidget> page(std::in_place);
+  const auto before = desktop.viewController(*page);
+  page.emplace();
+  EXPECT_NE(desktop.viewController(*page), before);
+}
+
 TEST_F(HostControllers, CanGoBeforeTheirWidgets) {
   desktop.viewController(*first).reset();
   EXPECT_EQ(window->childViewController(), nullptr);

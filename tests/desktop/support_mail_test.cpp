@@ -6,8 +6,10 @@
 #include <gmock/gmock.h>
 #include <sys/stat.h>
 
+#include "qv_commons/platform/desktop/sheet.h"
 #include "qv_commons/support/support_helper.h"
 
+#include "tests/desktop/active_window.h"
 #include "tests/desktop/desktop_driver.h"
 
 namespace qv_commons::desktop {
@@ -28,8 +30,7 @@ class SupportMail : public testing::Test {
     folder_.write("bundle/Info.plist", "<plist version=\"1.0\"><dict/></plist>");
     window_.resize(375, 667);
     window_.show();
-    window_.activateWindow();  // where there is no window manager that does it
-    settle();
+    activate(window_);
   }
 
   void useReceipt(const std::string& bytes) { folder_.write("bundle/StoreKit/receipt", bytes); }
@@ -139,6 +140,20 @@ TEST_F(SupportMail, TellsTheHostOnceTheComposerIsGone) {
   ASSERT_TRUE(waitUntil([&] { return host_->completions == 1; }));
   EXPECT_EQ(screen_->presentedViewController(), nullptr);
   EXPECT_EQ(helper_->delegate(), nullptr);
+}
+
+// The natural one line.
+TEST_F(SupportMail, ComesUpOverAControllerThatNobodyKeeps) {
+  screen_.reset();
+  helper_->contactSupport(*desktop_.viewController(window_), "support@example.com", "Help", {},
+                          std::nullopt, "", host_);
+  settle();
+  const Sheet* composer = Sheet::topOf(window_);
+  ASSERT_NE(composer, nullptr);
+  click(*composer->findChild<QAbstractButton*>("cancel"));
+  settle();
+  EXPECT_EQ(Sheet::topOf(window_), nullptr);
+  EXPECT_EQ(host_->completions, 1);
 }
 
 TEST_F(SupportMail, SkipsAHostThatIsGone) {
