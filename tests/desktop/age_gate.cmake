@@ -19,6 +19,7 @@ qv_add_screen_test(age_gate_test
           age_gate_layout_test.cpp
           age_gate_pictures_test.cpp
           age_gate_screen_test.cpp
+          composer_pictures_test.cpp
           many_screens_test.cpp
           painting_test.cpp
           resource_search_test.cpp)
@@ -26,16 +27,18 @@ target_compile_definitions(age_gate_test
   PRIVATE QV_COMMONS_RESOURCES="${PROJECT_SOURCE_DIR}/qv_commons/resources"
           QV_COMMONS_PICTURES="${CMAKE_CURRENT_SOURCE_DIR}/pictures")
 
-# Again with texts twice as large, and on a real window system, which has its own ways with focus,
+# Again with texts twice as large, and on real window systems, which have their own ways with focus,
 # painting and geometry.
 add_test(NAME desktop.age_gate_large_text
-  COMMAND age_gate_test --gtest_filter=*AgeGateShapeTest*:*AgeGatePictures*:AgeGateTest*)
+  COMMAND age_gate_test --gtest_filter=*AgeGateShapeTest*:*Pictures*:AgeGateTest*)
 set_tests_properties(desktop.age_gate_large_text PROPERTIES LABELS desktop TIMEOUT 300
   ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QV_COMMONS_TEST_FONT_PIXELS=30")
 qv_add_desktop_test(desktop.age_gate_xvfb NEEDS Xvfb
   COMMAND ${PROJECT_SOURCE_DIR}/tests/tools/with_xvfb
-          $<TARGET_FILE:age_gate_test> --gtest_filter=AgeGateTest*
+          $<TARGET_FILE:age_gate_test> --gtest_filter=AgeGateTest*:*Pictures*
   ENVIRONMENT LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tools/leaks.supp)
+qv_add_wayland_test(desktop.age_gate_wayland
+  $<TARGET_FILE:age_gate_test> --gtest_filter=AgeGateTest*:*Pictures*)
 
 # Answers that owe nothing to ICU.
 add_executable(calendar_years calendar_years.cpp)

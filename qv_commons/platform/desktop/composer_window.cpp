@@ -30,6 +30,8 @@
 namespace qv_commons::desktop {
 namespace {
 
+constexpr int kLineEditMargin = 2;  // beside its text, whatever its style
+
 // Named for style sheets, screen readers and tests alike.
 template <class Widget>
 Widget* named(Widget* widget, const QString& name, const char* role) {
@@ -65,10 +67,13 @@ QLineEdit* makeLineEdit(const QString& name) {
   return edit;
 }
 
+// Its lines begin where all lines do, whatever the direction of its own letters.
 QLabel* makeLabel(const QString& name, const QString& text, const char* role) {
   auto* label = named(new QLabel(text), name, role);
   label->setTextFormat(Qt::PlainText);
   label->setWordWrap(true);
+  const bool isReversed = label->layoutDirection() == Qt::RightToLeft;
+  label->setAlignment(Qt::AlignAbsolute | (isReversed ? Qt::AlignRight : Qt::AlignLeft));
   return label;
 }
 
@@ -104,7 +109,11 @@ QWidget* ComposerWindow::makeBar() {
   auto* bar = named(new QWidget, "bar", "page");
   auto* layout = new QHBoxLayout(bar);
   // The plain button's padding lies in the margin, so that its text lines up with the fields.
-  layout->setContentsMargins(kSideMargin - kButtonPadding, kSideMargin, kSideMargin, kGap / 2);
+  QMargins margins(kSideMargin - kButtonPadding, kSideMargin, kSideMargin, kGap / 2);
+  if (layoutDirection() == Qt::RightToLeft) {
+    margins = {margins.right(), margins.top(), margins.left(), margins.bottom()};
+  }
+  layout->setContentsMargins(margins);
   cancel_ = makeButton("cancel", "Cancel", Qt::ALT | Qt::Key_C, "plain", callbacks_.cancel);
   send_ = makeButton("send", "Send", Qt::ALT | Qt::Key_S, "primary", callbacks_.send);
   layout->addWidget(cancel_);
@@ -137,6 +146,8 @@ QWidget* ComposerWindow::makePage() {
   addField(*layout, "Subject", *subject_);
   body_ = named(new MessageEdit, "body", "field");
   body_->setTabChangesFocus(true);
+  body_->document()->setDocumentMargin(kLineEditMargin);
+  body_->document()->setModified(false);  // by the user
   body_->setVerticalScrollBar(new ThinScrollBar(Qt::Vertical));
   body_->setMinimumHeight(qRound(120 * textScale()));
   addField(*layout, "Message", *body_, 1);
@@ -161,7 +172,7 @@ QWidget* ComposerWindow::makePage() {
 
 void ComposerWindow::addField(QVBoxLayout& page, const QString& caption, QWidget& field,
                               int stretch) {
-  auto* label = named(new QLabel(caption), field.objectName() + "Caption", "caption");
+  QLabel* label = makeLabel(field.objectName() + "Caption", caption, "caption");
   label->setBuddy(&field);
   field.setAccessibleName(caption);
   auto* column = new QVBoxLayout;
@@ -190,10 +201,12 @@ void ComposerWindow::addShortcuts() {
 
 void ComposerWindow::setRecipients(const std::string& recipients) {
   recipients_->setText(fromUtf8(recipients));
+  recipients_->setCursorPosition(0);  // so that its beginning is seen
 }
 
 void ComposerWindow::setSubject(const std::string& subject) {
   subject_->setText(fromUtf8(subject));
+  subject_->setCursorPosition(0);
 }
 
 void ComposerWindow::setBody(std::string body) {
@@ -229,12 +242,8 @@ void ComposerWindow::addAttachment(const MailAttachment& attachment) {
   QLabel* sizeLabel = makeLabel("attachmentSize", size, "caption");
   nameLabel->setAccessibleName(name);  // without the places to break
   sizeLabel->setAccessibleName("Attachment " + name + ", " + size);
-  for (QLabel* label : {nameLabel, sizeLabel}) {
-    // Where lines begin, whatever the direction of the name's own letters.
-    const bool isReversed = layoutDirection() == Qt::RightToLeft;
-    label->setAlignment(Qt::AlignAbsolute | (isReversed ? Qt::AlignRight : Qt::AlignLeft));
-    column->addWidget(label);
-  }
+  column->addWidget(nameLabel);
+  column->addWidget(sizeLabel);
   attachments_->addLayout(column);
 }
 

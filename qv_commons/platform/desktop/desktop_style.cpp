@@ -32,6 +32,7 @@ QPushButton[role="plain"] { border-color: transparent; padding-left: 8px; paddin
 QPushButton[role="primary"] {
   background: %5; color: %6; border-color: %5; font-weight: 600;
 }
+QPushButton[role="destructive"] { color: %7; }
 *:focus { outline: none; }
 QPushButton:pressed { border-color: %3; }
 QPushButton:disabled { background: transparent; color: %3; border-color: %4; }

@@ -32,7 +32,7 @@ inline constexpr int kSideMargin = 20;
 inline constexpr int kBottomMargin = 24;
 inline constexpr int kGap = 16;
 inline constexpr int kCaptionGap = 4;
-inline constexpr int kButtonPadding = 8;  // of a plain one, with its border 10
+inline constexpr int kButtonPadding = 10;  // of a plain one, its border included
 
 // For a page whose widgets carry the property "role": title, heading, caption, error, primary or
 // plain.

@@ -98,6 +98,7 @@ Sheet::Sheet(std::shared_ptr<QWidget> content, Form form)
   scroll->setWidgetResizable(true);
   scroll->setVerticalScrollBar(new ThinScrollBar(Qt::Vertical));
   scroll->setHorizontalScrollBar(new ThinScrollBar(Qt::Horizontal));
+  scroll->setCornerWidget(new QWidget);  // which shows nothing between the bars
   scroll->viewport()->setAutoFillBackground(false);
   if (form_ == Form::panel) content_->setMinimumSize(kSmallestContent);
   scroll->setWidget(content_.get());
@@ -223,7 +224,7 @@ QRect Sheet::panelPlace() const {
   const QSize room = size() - QSize(2 * kLeastMargin, 2 * kLeastMargin);
   QRect place = rect();
   if (form_ == Form::card) {
-    const int width = std::min(scaled(kCardWidth), this->width() - 2 * kSideMargin);
+    const int width = std::min(scaled(kCardWidth), this->width() - kLeastMargin);
     const int height = content_->layout()->totalHeightForWidth(width);
     content_->setMinimumSize(0, height);
     place.setSize({width, std::min(height, room.height())});
