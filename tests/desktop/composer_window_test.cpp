@@ -159,7 +159,7 @@ TEST_F(ComposerWindows, AWindowThatIsClosedKeepsWhatWasTyped) {
   open();
   press(*composer_, Qt::Key_X);
   EXPECT_TRUE(host_.close());
-  ASSERT_TRUE(waitUntil([&] { return !drafts().empty(); }));
+  ASSERT_TRUE(waitUntil([&] { return find<QWidget>(*composer_, "send").isEnabled(); }));
   EXPECT_THAT(onlyDraft(), testing::HasSubstr("\n\nReason:\nx\nApp: x\n"));
   host_.show();
   EXPECT_TRUE(isOpen());
@@ -170,9 +170,11 @@ TEST_F(ComposerWindows, WhatAClosedWindowKeptGoesWithADiscardedMessage) {
   press(*composer_, Qt::Key_X);
   host_.close();
   host_.show();
-  settle();
+  ASSERT_TRUE(waitUntil([&] { return find<QWidget>(*composer_, "send").isEnabled(); }));
+  EXPECT_EQ(drafts().size(), 1U);
   click(*composer_, "cancel");
   settle();
+  ASSERT_NE(composer_->presentedViewController(), nullptr);
   click(*composer_->presentedViewController(), "action1");  // Discard
   ASSERT_TRUE(waitUntil([&] { return !isOpen(); }));
   EXPECT_THAT(drafts(), IsEmpty());
