@@ -84,7 +84,7 @@ apple() {
 
 macos() { apple macos Darwin MacOSX arm64-apple-macos11.0; }
 
-# Over the Objective-C headers that the dev build has mended, and the stand-in of UIKit.
+# Over the Objective-C headers that the dev build has patched, and the stand-in of UIKit.
 ios() {
   local headers=$PWD/build/dev/objc_compat
   [ -d "$headers" ] || { echo "ios: left out, the dev preset's build of the iOS adapter is not here"; return 0; }

@@ -21,8 +21,11 @@ def read(path):
 
 
 def listed_by_cmake(folder):
-    sources = re.findall(r'^\s+([\w+/]+\.(?:cpp|mm))\b', read(f'{folder}/CMakeLists.txt'), re.M)
-    return {f'{folder}/{source}' for source in sources}
+    """What the folder's library takes, by patterns such as age_gate/*.cpp."""
+    taken = re.search(r'qv_take_sources\(\w+([^)]*)\)', read(f'{folder}/CMakeLists.txt'))[1]
+    sources = matched([f'{folder}/{pattern}' for pattern in taken.split()])
+    assert sources, taken
+    return sources
 
 
 def braces(pattern):
