@@ -307,6 +307,11 @@ TEST_F(AgeGateBadLayoutDeathTest, StopsAtALayoutThatIsCutOff) {
   EXPECT_DEATH(startAgeGate(), "the layout .*QV_AgeGateViewController.ui: .*line");
 }
 
+TEST_F(AgeGateBadLayoutDeathTest, StopsAtALayoutOfAnotherVersion) {
+  replace("<ui version=\"4.0\"", "<ui version=\"3.3\"");
+  EXPECT_DEATH(startAgeGate(), "the layout .*QV_AgeGateViewController.ui: .*3.3");
+}
+
 TEST_F(AgeGateBadLayoutDeathTest, StopsAtALayoutThatIsAFolder) {
   fs::remove(layout());
   fs::create_directory(layout());

@@ -260,10 +260,10 @@ TEST_F(SheetTest, IsNoPaneOfASplitter) {
   splitter.addWidget(new QLineEdit);
   splitter.resize(700, 300);
   splitter.show();
-  const Sheet& sheet = Sheet::show(&splitter, makeContent("Sheet"), Sheet::Form::panel);
+  const Sheet* const sheet = &Sheet::show(&splitter, makeContent("Sheet"), Sheet::Form::panel);
   EXPECT_EQ(splitter.count(), 1);
   QTest::qWait(1);
-  EXPECT_EQ(sheet.size(), splitter.size());
+  EXPECT_EQ(sheet->size(), splitter.size());
 }
 
 TEST_F(SheetTest, LetsTheWindowBeClosedAndTheApplicationQuit) {
