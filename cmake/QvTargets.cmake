@@ -31,6 +31,9 @@ function(qv_add_library name export)
     set_target_properties(${name} PROPERTIES OBJCXX_VISIBILITY_PRESET hidden)
   endif()
   target_compile_definitions(${name} PUBLIC $<$<BOOL:${BUILD_SHARED_LIBS}>:QV_COMMONS_SHARED>)
+  if(CMAKE_SYSTEM_NAME STREQUAL "Linux" AND NOT QV_COMMONS_SANITIZE)  # what a shared one lacks is told here
+    target_link_options(${name} PRIVATE LINKER:--no-undefined)
+  endif()
   # Nobody replaces functions of these libraries at load time, so g++ may inline them, as clang++ does.
   target_compile_options(${name} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-semantic-interposition>)
 endfunction()
