@@ -11,7 +11,7 @@ find_package(Qt6 REQUIRED COMPONENTS Widgets)
 add_executable(notes main.cpp)
 target_link_libraries(notes PRIVATE qv_commons::desktop Qt6::Widgets)
 END
-quietly cmake -B build
+quietly cmake -B build $unity
 quietly cmake --build build -j "$(nproc)"
 expect_gate build/notes
 along=$(find build -name '*_test*' -o -name '*bench*' -o -name '*fuzz*' -o -name '*_host')

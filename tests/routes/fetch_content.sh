@@ -12,6 +12,6 @@ add_executable(notes main.cpp)
 target_link_libraries(notes PRIVATE qv_commons::memory)
 END
 export SOURCE
-quietly cmake -B build -DQV_COMMONS_DESKTOP=OFF
+quietly cmake -B build -DQV_COMMONS_DESKTOP=OFF $unity
 quietly cmake --build build -j "$(nproc)"
 expect_output build/notes

@@ -2,7 +2,7 @@
 # Shared libraries, of whose insides nothing shows, and pkg-config in the place of CMake.
 source "$(dirname "$0")/lib.sh"
 build=$SHARED/shared
-quietly cmake --preset library -S "$SOURCE" -B "$build" -DBUILD_SHARED_LIBS=ON
+quietly cmake --preset library -S "$SOURCE" -B "$build" -DBUILD_SHARED_LIBS=ON $unity
 quietly cmake --build "$build"
 rm -rf "$SHARED/shared-prefix"
 quietly cmake --install "$build" --prefix "$SHARED/shared-prefix"
