@@ -13,8 +13,9 @@ std::string textForKey(const Bundle& bundle, std::string_view key) {
 }  // namespace
 
 std::string appVersionOf(const Bundle& bundle) {
-  const std::string version = textForKey(bundle, "CFBundleShortVersionString");
-  return version + "(" + textForKey(bundle, "CFBundleVersion") + ")";
+  std::string version = textForKey(bundle, "CFBundleShortVersionString");
+  version.append("(").append(textForKey(bundle, "CFBundleVersion")).append(")");
+  return version;
 }
 
 std::string appIdOf(const Bundle& bundle) {

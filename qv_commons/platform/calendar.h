@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "qv_commons/platform/clock.h"
+#include "qv_commons/platform/instant.h"
 
 namespace qv_commons {
 

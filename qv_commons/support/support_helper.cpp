@@ -45,16 +45,19 @@ std::string composeBody(const Platform& platform, const std::vector<std::string>
 void attachReceipt(const Platform& platform, MailComposer& composer) {
   const std::optional<FileLocation> location = platform.bundles.mainBundle().appStoreReceiptURL();
   if (!location) return;
-  const auto receipt = std::make_shared<FileContents>();
-  const auto attachment = std::make_shared<MailAttachment>();
+  struct Receipt {
+    std::optional<MailAttachment> attachment;
+    std::string errorDescription;
+  };
+  const auto receipt = std::make_shared<Receipt>();
   composer.prepare(
-      [=, &bundles = platform.bundles] {
-        *receipt = bundles.read(*location);
-        if (receipt->bytes) *attachment = supportMailAttachment(*receipt->bytes);
-        if (receipt->bytes) receipt->bytes.emplace();  // it may be large
+      [receipt, &bundles = platform.bundles, location] {
+        FileContents contents = bundles.read(*location);
+        if (contents.bytes) receipt->attachment = supportMailAttachment(*contents.bytes);
+        receipt->errorDescription = std::move(contents.errorDescription);
       },
-      [=, &application = platform.application, &composer] {
-        if (receipt->bytes) return composer.addAttachment(std::move(*attachment));
+      [receipt, &application = platform.application, &composer] {
+        if (receipt->attachment) return composer.addAttachment(*std::move(receipt->attachment));
         application.print("error converting receipt to Data: " + receipt->errorDescription);
       });
 }
@@ -79,7 +82,8 @@ void QV_SupportHelper::contactSupport(ViewController& viewController, const std:
                                       std::weak_ptr<QV_SupportHelperDelegate> delegate) {
   const Platform& platform = currentPlatform();
   if (!platform.viewControllers.canSendMail()) {
-    return presentCannotSendAlert(platform.viewControllers, viewController);
+    presentCannotSendAlert(platform.viewControllers, viewController);
+    return;
   }
   delegate_ = std::move(delegate);
   std::shared_ptr<MailComposer> composer = platform.viewControllers.makeMailComposer();

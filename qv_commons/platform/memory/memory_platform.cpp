@@ -14,7 +14,7 @@ MemoryPlatform::MemoryPlatform()
                 .viewControllers = viewControllers_} {}
 
 MemoryPlatform::~MemoryPlatform() {
-  dismissAll(transitions_.presentations());
+  transitions_.presentations().dismissAll();
 }
 
 std::shared_ptr<ViewController> MemoryPlatform::makeViewController(std::string name,

@@ -1,0 +1,16 @@
+// The app's name in a heading.
+//
+//     std::string heading = qv_commons::fillInAppName("Welcome to [APPNAME]", "Notes");
+//     bool filledIn = heading == "Welcome to Notes";
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace qv_commons {
+
+// `text` with every "[APPNAME]", spelled exactly so, replaced by `appName`. A placeholder within
+// the app's name is not replaced again. Any thread.
+std::string fillInAppName(std::string_view text, std::string_view appName);
+
+}  // namespace qv_commons
