@@ -32,7 +32,7 @@ if(NOT CMAKE_OBJCXX_COMPILER)
 endif()
 enable_language(OBJCXX)
 
-# The run-time's headers, mended where they don't go with ARC or with @YES, and with the
+# The run-time's headers, patched where they don't go with ARC or with @YES, and with the
 # declarations that the device's have and they lack.
 set(qv_objc_compat ${PROJECT_BINARY_DIR}/objc_compat)
 file(MAKE_DIRECTORY ${qv_objc_compat}/objc)

@@ -5,7 +5,7 @@ platform's own headers.
 
     tools/refresh_platform_names.py OBJC_HEADERS [TYPES_PACKAGE]
 
-OBJC_HEADERS is the build's folder of mended Objective-C headers (objc_compat). npm fetches the
+OBJC_HEADERS is the build's folder of patched Objective-C headers (objc_compat). npm fetches the
 package into a temporary folder, unless TYPES_PACKAGE is where it is already. A name that the package lacks, or declares
 otherwise, is reported and left out. For protocols it gives no versions.
 """

@@ -1,5 +1,5 @@
 // Calls every function of the logic, to be linked and weighed. It is not run: it has no platform.
-#include "qv_commons/age_gate/tapped_link.h"
+#include "qv_commons/age_gate/policy_links.h"
 #include "qv_commons/app_info/app_info_helper.h"
 #include "qv_commons/platform/fatal_error.h"
 #include "qv_commons/platform/presentation.h"

@@ -12,9 +12,6 @@ Color grey(double level) {
   return {level, level, level, 1};
 }
 
-constexpr double kWhite = 1;
-constexpr double kBlack = 0;
-
 }  // namespace
 
 QV_AgeGateColorTheme::QV_AgeGateColorTheme(Color background, Color buttonBackground,
@@ -31,9 +28,9 @@ std::shared_ptr<QV_AgeGateColorTheme> QV_AgeGateColorTheme::defaultTheme() {
 
 std::shared_ptr<QV_AgeGateColorTheme> defaultThemeFor(bool systemIsAtLeast13, bool styleIsDark) {
   const bool isDark = systemIsAtLeast13 && styleIsDark;
-  return std::make_shared<QV_AgeGateColorTheme>(
-      grey(isDark ? 0.118 : kWhite), grey(isDark ? kWhite : kBlack), grey(isDark ? kBlack : kWhite),
-      grey(isDark ? kWhite : 0.29), grey(isDark ? 0.541 : 0.514));
+  return std::make_shared<QV_AgeGateColorTheme>(grey(isDark ? 0.118 : 1), grey(isDark ? 1 : 0),
+                                                grey(isDark ? 0 : 1), grey(isDark ? 1 : 0.29),
+                                                grey(isDark ? 0.541 : 0.514));
 }
 
 std::shared_ptr<QV_AgeGateColorTheme> defaultThemeOf(const Platform& platform) {

@@ -1,4 +1,5 @@
-// What a start of the age gate leads to, decided from its two persisted flags.
+// The age gate's two decisions: what a start leads to, and whether a date of birth lets the user
+// in.
 //
 //     using qv_commons::AgeGateStartDecision;
 //     AgeGateStartDecision first = qv_commons::decideAgeGateStart(false, false);  // presentAgeGate

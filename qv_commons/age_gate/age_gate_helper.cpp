@@ -23,12 +23,6 @@ std::shared_ptr<QV_AgeGateViewController> makeAgeGateScreen(const Platform& plat
 
 }  // namespace
 
-AgeGateStartDecision decideAgeGateStart(const UserDefaults& userDefaults) {
-  const bool shown = userDefaults.boolForKey(kAgeGateShownKey);
-  const bool blocked = shown && userDefaults.boolForKey(kAgeGateBlockedKey);
-  return decideAgeGateStart(shown, blocked);
-}
-
 void QV_AgeGateHelper::startAgeGateProcess(std::shared_ptr<ViewController> viewController,
                                            std::int64_t minimumAgeRequired, Completion completion,
                                            ContactUsHandler contactUsHandler,

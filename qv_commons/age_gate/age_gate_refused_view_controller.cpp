@@ -3,8 +3,8 @@
 #include <optional>
 #include <utility>
 
-#include "qv_commons/age_gate/app_name_placeholder.h"
 #include "qv_commons/age_gate/policy_links.h"
+#include "qv_commons/age_gate/refused_screen.h"
 #include "qv_commons/age_gate/screen_parts.h"
 #include "qv_commons/app_info/app_info_helper.h"
 #include "qv_commons/platform/bundle.h"

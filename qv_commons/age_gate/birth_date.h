@@ -5,8 +5,6 @@
 //     auto age = qv_commons::ageInYears(kBirth, kNow, platform.calendar());         // 23
 //     bool allowed = qv_commons::judgeBirthDate(kBirth, kNow, platform.calendar(), 18) ==
 //                    qv_commons::AgeGateVerdict::allowed;
-//
-// Main thread.
 #pragma once
 
 #include <cstdint>
@@ -24,8 +22,9 @@ struct BirthDate {
 };
 
 // The whole calendar years from `birth` to `now`, as `calendar` counts them: a year is complete
-// when the month, day and time of day of the birth have been reached again. A future date gives 0,
-// or minus the whole years until then. Asks the calendar once; a fatal error if it can't tell.
+// when the month, day and time of day of the birth have been reached again. Main thread. A future
+// date gives 0, or minus the whole years until then. Asks the calendar once; a fatal error if it
+// can't tell.
 QV_COMMONS_EXPORT std::int64_t ageInYears(BirthDate birth, Instant now, const Calendar& calendar);
 
 // Allowed if the age is `minimumAge` or more.

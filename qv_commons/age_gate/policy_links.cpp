@@ -1,42 +1,30 @@
 #include "qv_commons/age_gate/policy_links.h"
 
-#include <algorithm>
-#include <initializer_list>
-#include <memory>
+#include <cstddef>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "qv_commons/age_gate/age_gate_color_theme.h"
+#include "qv_commons/platform/application.h"
 #include "qv_commons/platform/fatal_error.h"
 #include "qv_commons/platform/views.h"
+#include "qv_commons/support/url.h"
 
 namespace qv_commons {
 namespace {
 
-struct FixedLink {
-  TextRange range;
-  std::string_view value;
-};
-
-void requireLength(const AttributedString& text, std::initializer_list<FixedLink> links,
-                   std::string_view caller) {
-  std::size_t needed = 0;
-  for (const FixedLink& link : links) {
-    needed = std::max(needed, link.range.location + link.range.length);
-  }
-  if (text.length() >= needed) return;
-  fatalError(std::string(caller) + ": the text has " + std::to_string(text.length()) +
-             " UTF-16 units, its links need " + std::to_string(needed));
-}
-
-void applyLinks(TextView& textView, std::initializer_list<FixedLink> links,
+void applyLinks(TextView& textView, const std::vector<TextLink>& links,
                 const QV_AgeGateColorTheme& theme, std::string_view caller) {
-  const std::unique_ptr<AttributedString> text = textView.attributedText();
-  if (!text) fatalError(std::string(caller).append(": the text view has no attributed text"));
-  requireLength(*text, links, caller);
-  for (const FixedLink& link : links) text->addLink(link.value, link.range);
-  textView.setLinkTextAttributes(theme.policiesTextColor);
-  textView.setAttributedText(*text);
-  // After the text, or the layout's own colours would stay.
+  const std::optional<std::size_t> length = textView.textLength();
+  if (!length) fatalError(std::string(caller).append(": the text view has no attributed text"));
+  const std::size_t needed = links.back().range.location + links.back().range.length;
+  if (*length < needed) {
+    fatalError(std::string(caller) + ": the text has " + std::to_string(*length) +
+               " UTF-16 units, its links need " + std::to_string(needed));
+  }
+  textView.addLinks(links, theme.policiesTextColor);
+  // After the links, or the layout's own colours would stay.
   textView.setTextColor(theme.textColor);
 }
 
@@ -45,12 +33,19 @@ void applyLinks(TextView& textView, std::initializer_list<FixedLink> links,
 void applyPolicyLinks(TextView& textView, std::string_view privacyLink,
                       std::string_view termsOfServiceLink, const QV_AgeGateColorTheme& theme) {
   applyLinks(textView,
-             {{kPrivacyLinkRange, privacyLink}, {kTermsOfServiceLinkRange, termsOfServiceLink}},
+             {{std::string(privacyLink), kPrivacyLinkRange},
+              {std::string(termsOfServiceLink), kTermsOfServiceLinkRange}},
              theme, "applyPolicyLinks");
 }
 
 void applyContactLink(TextView& textView, const QV_AgeGateColorTheme& theme) {
-  applyLinks(textView, {{kContactLinkRange, kContactLink}}, theme, "applyContactLink");
+  applyLinks(textView, {{std::string(kContactLink), kContactLinkRange}}, theme, "applyContactLink");
+}
+
+void interactWithLink(TextView& textView, TextViewDelegate* delegate, std::string_view value,
+                      TextRange range, Application& application) {
+  if (delegate != nullptr && !delegate->shouldInteractWithURL(textView, value, range)) return;
+  if (const std::optional<URL> url = URL::parse(std::string(value))) application.openURL(*url);
 }
 
 }  // namespace qv_commons

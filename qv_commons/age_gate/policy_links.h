@@ -14,10 +14,11 @@
 #include <string_view>
 
 #include "qv_commons/export.h"
-#include "qv_commons/platform/text_range.h"
+#include "qv_commons/platform/text_view_delegate.h"
 
 namespace qv_commons {
 
+class Application;
 class QV_AgeGateColorTheme;
 class TextView;
 
@@ -41,5 +42,12 @@ QV_COMMONS_EXPORT void applyPolicyLinks(TextView& textView, std::string_view pri
 // The same with one link, to "mailto", over the units 38 to 59. A view without a text, or with one
 // of fewer than 60 units, is a fatal error.
 QV_COMMONS_EXPORT void applyContactLink(TextView& textView, const QV_AgeGateColorTheme& theme);
+
+// What a tap on a link does, for adapters whose system has no links of its own. Not for hosts.
+// Asks `delegate`, if there is one, whether the system opens the link `value` at `range`. Without a
+// delegate, or if it says so, the system opens it; a value that is not a URL is ignored.
+QV_COMMONS_EXPORT void interactWithLink(TextView& textView, TextViewDelegate* delegate,
+                                        std::string_view value, TextRange range,
+                                        Application& application);
 
 }  // namespace qv_commons

@@ -1,10 +1,11 @@
-// Making the refusal, alike for a start that finds the user refused and for the confirm that
-// refuses. Not for hosts.
+// Making the refusal and naming the app in it, alike for a start that finds the user refused and
+// for the confirm that refuses. Not for hosts.
 #pragma once
 
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "qv_commons/age_gate/age_gate_refused_view_controller.h"
 
@@ -25,5 +26,9 @@ enum class RefusedScreenLook : std::uint8_t { followsSystem, pinned };
 std::shared_ptr<QV_AgeGateRefusedViewController> makeRefusedScreen(const Platform& platform,
                                                                    RefusedScreenContent content,
                                                                    RefusedScreenLook look);
+
+// `text` with every "[APPNAME]", spelled exactly so, replaced by `appName`. A placeholder within
+// the app's name is not replaced again. Any thread.
+std::string fillInAppName(std::string_view text, std::string_view appName);
 
 }  // namespace qv_commons

@@ -12,9 +12,7 @@ std::shared_ptr<LayoutScreen> makeScreen(const Platform& platform, std::string_v
 }
 
 void stopAtOutlet(std::string_view screen, std::string_view name) {
-  std::string message(screen);
-  message.append(": the outlet \"").append(name).append("\" is not connected");
-  fatalError(message);
+  fatalError(std::string(screen) + ": the outlet \"" + std::string(name) + "\" is not connected");
 }
 
 }  // namespace qv_commons

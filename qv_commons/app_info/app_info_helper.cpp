@@ -13,9 +13,8 @@ std::string textForKey(const Bundle& bundle, std::string_view key) {
 }  // namespace
 
 std::string appVersionOf(const Bundle& bundle) {
-  std::string version = textForKey(bundle, "CFBundleShortVersionString");
-  version.append("(").append(textForKey(bundle, "CFBundleVersion")).append(")");
-  return version;
+  const std::string version = textForKey(bundle, "CFBundleShortVersionString");
+  return version + "(" + textForKey(bundle, "CFBundleVersion") + ")";
 }
 
 std::string appIdOf(const Bundle& bundle) {

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "qv_commons/platform/instant.h"
+#include "qv_commons/platform/clock.h"
 
 namespace qv_commons {
 

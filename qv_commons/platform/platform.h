@@ -15,22 +15,14 @@
 
 namespace qv_commons {
 
-class Application;
-class Bundles;
-class Calendar;
-class Clock;
-class Device;
-class UserDefaults;
-class ViewControllers;
-
 struct Platform {
-  Bundles& bundles;
-  Device& device;
-  Clock& clock;
-  Calendar& calendar;
-  UserDefaults& userDefaults;
-  Application& application;
-  ViewControllers& viewControllers;
+  class Bundles& bundles;
+  class Device& device;
+  class Clock& clock;
+  class Calendar& calendar;
+  class UserDefaults& userDefaults;
+  class Application& application;
+  class ViewControllers& viewControllers;
 };
 
 // Makes `platform` the current one until another is installed. It must outlive its installation.

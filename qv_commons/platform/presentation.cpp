@@ -7,9 +7,10 @@
 
 namespace qv_commons {
 
-void Presentations::dismissAll() {
-  while (!current_.empty()) {
-    NativeController::of(*current_.front().presenter).NativeController::dismiss(false, nullptr);
+void dismissAll(Presentations& presentations) {
+  while (!presentations.empty()) {
+    NativeController::of(*presentations.front().presenter)
+        .NativeController::dismiss(false, nullptr);
   }
 }
 
@@ -32,7 +33,7 @@ void NativeController::present(std::shared_ptr<ViewController> controller, bool 
 
 void NativeController::dismiss(bool animated, Completion completion) {
   const bool isBelow = presented_ != nullptr;
-  std::vector<Presentations::Presentation> kept;
+  Presentations kept;
   for (auto at = presentations_.begin(); at != presentations_.end();) {
     const NativeController& native = of(*at->presented);
     const bool goes = isBelow ? native.isAbove(*this) : &native == this;

@@ -29,30 +29,24 @@
 
 namespace qv_commons {
 
-class NativeController;
+struct Presentation {
+  std::shared_ptr<ViewController> presenter;
+  std::shared_ptr<ViewController> presented;
+};
 
 // Who presents whom on an adapter's screens, in the order of presenting. Keeps both alive. Outlives
-// its controllers.
-class QV_COMMONS_EXPORT Presentations {
- public:
-  // Dismisses everything that is presented, without animation.
-  void dismissAll();
+// its controllers, which alone change it.
+using Presentations = std::vector<Presentation>;
 
- private:
-  friend class NativeController;
-  struct Presentation {
-    std::shared_ptr<ViewController> presenter;
-    std::shared_ptr<ViewController> presented;
-  };
-  std::vector<Presentation> current_;
-};
+// Dismisses everything that is presented, without animation.
+QV_COMMONS_EXPORT void dismissAll(Presentations& presentations);
 
 class QV_COMMONS_EXPORT NativeController {
  public:
   // The native of `controller`, which is either that controller itself or, for the library's
   // screens, the one that owns it. Both live equally long.
   NativeController(ViewController& controller, Presentations& presentations)
-      : controller_(&controller), presentations_(presentations.current_) {}
+      : controller_(&controller), presentations_(presentations) {}
   virtual ~NativeController() = default;
 
   // The native of a controller that this process's adapter made.
@@ -89,7 +83,7 @@ class QV_COMMONS_EXPORT NativeController {
   void leave();
 
   ViewController* controller_;
-  std::vector<Presentations::Presentation>& presentations_;
+  Presentations& presentations_;
   NativeController* presenter_ = nullptr;
   ViewController* presented_ = nullptr;  // the last one, in the one load that a look-up takes
 };

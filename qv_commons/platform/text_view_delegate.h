@@ -1,13 +1,20 @@
 // Who decides about a text view's tapped links. Main thread only.
 #pragma once
 
+#include <cstddef>
 #include <string_view>
-
-#include "qv_commons/platform/text_range.h"
 
 namespace qv_commons {
 
 class TextView;
+
+// A range of a text, in UTF-16 code units.
+struct TextRange {
+  std::size_t location = 0;
+  std::size_t length = 0;
+
+  friend bool operator==(const TextRange&, const TextRange&) = default;
+};
 
 class TextViewDelegate {
  public:

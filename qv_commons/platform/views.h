@@ -7,11 +7,10 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <string_view>
+#include <vector>
 
+#include "qv_commons/platform/clock.h"
 #include "qv_commons/platform/color.h"
-#include "qv_commons/platform/instant.h"
-#include "qv_commons/platform/text_range.h"
 #include "qv_commons/platform/text_view_delegate.h"
 
 namespace qv_commons {
@@ -48,26 +47,22 @@ class DatePicker : public View {
   virtual Instant date() const = 0;
 };
 
-// A mutable copy of a text with its attributes, in the adapter's own form.
-class AttributedString {
- public:
-  virtual ~AttributedString() = default;
+// The value is kept as it is, whether or not it is a URL.
+struct TextLink {
+  std::string value;
+  TextRange range;
 
-  virtual std::size_t length() const = 0;  // in UTF-16 code units
-
-  // Marks `range`, which lies within the text, as a link with that value; the value is kept as it
-  // is, whether or not it is a URL.
-  virtual void addLink(std::string_view value, TextRange range) = 0;
+  friend bool operator==(const TextLink&, const TextLink&) = default;
 };
 
 class TextView : public View {
  public:
-  // A copy of the text that is shown; null if the view has none.
-  virtual std::unique_ptr<AttributedString> attributedText() const = 0;
-  virtual void setAttributedText(const AttributedString& text) = 0;
+  // Of the text that is shown, in UTF-16 code units; std::nullopt if the view has no text.
+  virtual std::optional<std::size_t> textLength() const = 0;
 
-  // Links are shown in `foreground` and with nothing else of their own.
-  virtual void setLinkTextAttributes(const Color& foreground) = 0;
+  // Makes links of pieces of the text, whose ranges lie within it, beside those that it has. All
+  // links are shown in `foreground` and with nothing else of their own.
+  virtual void addLinks(const std::vector<TextLink>& links, const Color& foreground) = 0;
 
   // The colour of all text that is not a link.
   virtual void setTextColor(const Color& color) = 0;

@@ -45,19 +45,16 @@ std::string composeBody(const Platform& platform, const std::vector<std::string>
 void attachReceipt(const Platform& platform, MailComposer& composer) {
   const std::optional<FileLocation> location = platform.bundles.mainBundle().appStoreReceiptURL();
   if (!location) return;
-  struct Receipt {
-    std::optional<MailAttachment> attachment;
-    std::string errorDescription;
-  };
-  const auto receipt = std::make_shared<Receipt>();
+  const auto receipt = std::make_shared<FileContents>();
+  const auto attachment = std::make_shared<MailAttachment>();
   composer.prepare(
-      [receipt, &bundles = platform.bundles, location] {
-        FileContents contents = bundles.read(*location);
-        if (contents.bytes) receipt->attachment = supportMailAttachment(*contents.bytes);
-        receipt->errorDescription = std::move(contents.errorDescription);
+      [=, &bundles = platform.bundles] {
+        *receipt = bundles.read(*location);
+        if (receipt->bytes) *attachment = supportMailAttachment(*receipt->bytes);
+        if (receipt->bytes) receipt->bytes.emplace();  // it may be large
       },
-      [receipt, &application = platform.application, &composer] {
-        if (receipt->attachment) return composer.addAttachment(*std::move(receipt->attachment));
+      [=, &application = platform.application, &composer] {
+        if (receipt->bytes) return composer.addAttachment(std::move(*attachment));
         application.print("error converting receipt to Data: " + receipt->errorDescription);
       });
 }
@@ -82,8 +79,7 @@ void QV_SupportHelper::contactSupport(ViewController& viewController, const std:
                                       std::weak_ptr<QV_SupportHelperDelegate> delegate) {
   const Platform& platform = currentPlatform();
   if (!platform.viewControllers.canSendMail()) {
-    presentCannotSendAlert(platform.viewControllers, viewController);
-    return;
+    return presentCannotSendAlert(platform.viewControllers, viewController);
   }
   delegate_ = std::move(delegate);
   std::shared_ptr<MailComposer> composer = platform.viewControllers.makeMailComposer();

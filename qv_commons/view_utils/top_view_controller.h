@@ -17,14 +17,10 @@ namespace qv_commons {
 struct ViewControllerRelations {
   using Controller = ViewController*;
 
-  static ViewControllerKind kind(Controller controller) { return controller->kind(); }
-  static Controller child(Controller controller) { return controller->childViewController(); }
-  static Controller presented(Controller controller) {
-    return controller->presentedViewController();
-  }
-  static Controller presenting(Controller controller) {
-    return controller->presentingViewController();
-  }
+  static ViewControllerKind kind(Controller of) { return of->kind(); }
+  static Controller child(Controller of) { return of->childViewController(); }
+  static Controller presented(Controller by) { return by->presentedViewController(); }
+  static Controller presenting(Controller shown) { return shown->presentingViewController(); }
 };
 
 // See `QV_ViewControllerHelper::topViewController`. A loop, so any depth takes the same stack; each

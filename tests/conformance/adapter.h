@@ -17,8 +17,8 @@
 #include <vector>
 
 #include "qv_commons/platform/bundle.h"
+#include "qv_commons/platform/clock.h"
 #include "qv_commons/platform/device.h"
-#include "qv_commons/platform/instant.h"
 #include "qv_commons/platform/platform.h"
 #include "qv_commons/platform/view_controllers.h"
 

@@ -108,6 +108,27 @@ TEST_F(AgeGateTest, StaysWhateverTheUserDoesToLeave) {
   ASSERT_NE(refusal(), nullptr);
 }
 
+TEST_F(AgeGateTest, IsAnsweredByKeyboardAlone) {
+  startAgeGate();
+  for (const char* part : {"12", "31", "1990"}) {
+    type(*gate(), part);
+    press(*gate(), Qt::Key_Tab);
+  }
+  EXPECT_EQ(view<WheelDatePicker>(*gate(), "datePicker").date(), instantAt(662657400));
+  press(*gate(), Qt::Key_Return);
+  EXPECT_EQ(gate(), nullptr);
+  EXPECT_EQ(completions_, 1);
+}
+
+TEST_F(AgeGateTest, ComesUpWithAWindowThatIsShownLater) {
+  window_->hide();
+  startAgeGate();
+  window_->show();
+  ASSERT_NE(gate(), nullptr);
+  EXPECT_EQ(gate()->geometry(), window_->rect());
+  EXPECT_TRUE(gate()->isAncestorOf(window_->focusWidget()));
+}
+
 TEST_F(AgeGateTest, LetsTheHostCloseItsWindowAndIsThereAgainWithIt) {
   startAgeGate();
   EXPECT_TRUE(window_->close());

@@ -18,7 +18,7 @@ TEST_P(ComposerPictures, AreTheSame) {
   composer->setMessageBody("Reason for contacting support:\n\n\nApp ID: notesapp\n", false);
   composer->addAttachment({"Zm9v", "Text/XML", "Receipt-Data.txt"});
   host_->presentViewController(composer, true, nullptr);
-  QTest::qWait(50);  // for what works beside the window
+  QTest::qWait(1);
   expectPicture("composer");
   type(*window_, "It");
   press(*window_, Qt::Key_Escape);

@@ -58,7 +58,7 @@ TEST(EditedText, IsShownWithOneKindOfLineEnd) {
 TEST(EditedText, ComesBackUnchangedWhereNothingWasEdited) {
   for (const std::string& original :
        {std::string(), std::string("\n"), std::string("a\rb\r\nc\nd\n\r"), std::string("a\0b\n", 4),
-        std::string("no-break\u00a0space"),
+        std::string("no-break\u00a0space"), std::string("\ufeff"), std::string("\ufeff\r\n\ufeffa"),
         std::string("\u2028 \u2029 \ufdd0 \ufdd1 \ufffc \ufeff"),
         std::string("not \xff UTF-8 \xc3\n"), std::string("📮 a\u0308 \u200f\n"),
         std::string(1 << 20, 'x'), std::string(300000, '\r')}) {
@@ -73,6 +73,11 @@ TEST(EditedText, ChangesWhereItWasTouchedAlone) {
   EXPECT_EQ(edited("first\r\nlast\r\n", 5, 0, "!"), "first!\r\nlast\r\n");
   EXPECT_EQ(edited("a\xff\xff b\r\n", 4, 0, "x"), "a\xff\xff xb\r\n");
   EXPECT_EQ(edited("\u20ac\U0001f4ee\r", 3, 0, "x"), "\u20ac\U0001f4eex\r");
+}
+
+TEST(EditedText, KeepsMarksOfByteOrder) {
+  EXPECT_EQ(edited("\ufeff\r\n\ufeffa\r\n", 2, 0, "x"), "\ufeff\r\nx\ufeffa\r\n");
+  EXPECT_EQ(edited("\ufeff\r\nb\xff\r\n", 1, 0, "x"), "\ufeffx\r\nb\xff\r\n");
 }
 
 TEST(EditedText, KeepsTheLinesBetweenTwoEdits) {

@@ -29,10 +29,12 @@ class ManyScreens : public AgeGateTest {
     openAndClose(make, kWarmUp);
     const Held before;
     openAndClose(make, times);
+    // What works beside the window may need a moment more.
+    const auto isDone = [&] { return Held().threads <= before.threads; };
+    EXPECT_TRUE(QTest::qWaitFor(isDone, 20'000));
     const Held after;
-    EXPECT_EQ(after.widgets, before.widgets);
-    EXPECT_EQ(after.descriptors, before.descriptors);
-    EXPECT_EQ(after.threads, before.threads);
+    EXPECT_LE(after.widgets, before.widgets);
+    EXPECT_LE(after.descriptors, before.descriptors);
     EXPECT_LT(after.bytes, before.bytes + 512 * 1024);
   }
 
@@ -45,7 +47,7 @@ class ManyScreens : public AgeGateTest {
       QCoreApplication::processEvents();
       QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
-    QTest::qWait(50);  // for what works beside the window
+    QTest::qWait(50);
   }
 };
 

@@ -72,9 +72,7 @@ class MemoryScreens : public testing::Test {
   }
 
   static void addLink(Form& form, const std::string& value) {
-    const auto text = form.text.lock()->attributedText();
-    text->addLink(value, {9, 5});
-    form.text.lock()->setAttributedText(*text);
+    form.text.lock()->addLinks({{value, {9, 5}}}, {});
   }
 
   MemoryScreen& screen() { return *platform.viewControllers().lastScreen(); }
@@ -184,14 +182,15 @@ TEST_F(MemoryScreens, HaveNoLinksToChooseWhereTheTextIsEditableOrNotSelectable) 
   EXPECT_FALSE(screen().tapLink("text", 9));
 }
 
-TEST_F(MemoryScreens, ChangeNoTextUntilTheCopyIsSet) {
+TEST_F(MemoryScreens, AddLinksToThoseOfATextView) {
   const auto form = presentForm();
-  const auto copy = form->text.lock()->attributedText();
-  copy->addLink("https://example.com", {0, 4});
-  EXPECT_THAT(screen().view<MemoryTextView>("text").links(), IsEmpty());
-  form->text.lock()->setAttributedText(*copy);
-  EXPECT_THAT(screen().view<MemoryTextView>("text").links(),
-              ElementsAre(Link{"https://example.com", {0, 4}}));
+  const auto text = form->text.lock();
+  text->addLinks({{"https://example.com", {0, 4}}}, {.red = 1});
+  text->addLinks({{"https://example.org", {9, 5}}}, {.blue = 1});
+  const auto& view = screen().view<MemoryTextView>("text");
+  EXPECT_THAT(view.links(), ElementsAre(TextLink{"https://example.com", {0, 4}},
+                                        TextLink{"https://example.org", {9, 5}}));
+  EXPECT_EQ(view.colorAt(0), (Color{.blue = 1}));
 }
 
 TEST_F(MemoryScreens, StopWhereAViewOrAnActionIsMissing) {

@@ -124,9 +124,7 @@ TEST_F(UIKitControllers, LetTextViewsAskAnyDelegate) {
   native.text = @"see here";
   native.editable = NO;
   auto& textView = static_cast<qv_commons::TextView&>(*toView(native));
-  const auto text = textView.attributedText();
-  text->addLink("https://example.com/a", {4, 4});
-  textView.setAttributedText(*text);
+  textView.addLinks({{"https://example.com/a", {4, 4}}}, {});
   Asked delegate;
   textView.setDelegate(&delegate);
   EXPECT_TRUE(standin::tapLink(native, 5));

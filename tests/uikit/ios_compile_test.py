@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """The core, the adapter and the example compile for arm64-apple-ios11.0 as CMake configures them, and
 link; what a device of that version lacks is turned down: by the newest C++ library, and by that of the
-last tools that made apps for iOS 11. QV_OBJC_HEADERS names the build's mended Objective-C headers.
+last tools that made apps for iOS 11. QV_OBJC_HEADERS names the build's patched Objective-C headers.
 
 What was compiled stays in build/ios, so that a second run compiles what has changed."""
 

@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """Every name of the platform that the adapter and the example use is a real one, with as many
 arguments, the same number and the same first system version as platform_names.txt has from the
-platform's own declarations. QV_OBJC_HEADERS names the build's mended Objective-C headers."""
+platform's own declarations. QV_OBJC_HEADERS names the build's patched Objective-C headers."""
 
 import os
 import re

@@ -15,7 +15,7 @@ namespace qv_commons::desktop {
 
 class DesktopBundle final : public Bundle {
  public:
-  // Whether a folder without Info.plist is worth a word; a resource bundle needs none.
+  // Whether a folder without Info.plist is reported; a resource bundle needs none.
   enum class InfoPlist : std::uint8_t { expected, optional };
 
   // Reads Info.plist in `directory`, any bytes that name a folder. One that is missing or damaged

@@ -46,7 +46,7 @@ struct DesktopPlatform::Parts {
 // A screen and the host that shows it keep each other. What still waits refers to screens, and
 // those to the parts that are about to go.
 DesktopPlatform::Parts::~Parts() {
-  context->presentations.dismissAll();
+  dismissAll(context->presentations);
   for (const auto& unfinished : std::exchange(context->unfinished, {})) unfinished->finish();
   QCoreApplication::removePostedEvents(&context->transitions);
 }

@@ -44,6 +44,15 @@ std::string fileNameOf(const MailAttachment& attachment) {
   return name.empty() || name == "." || name == ".." ? "attachment" : name;
 }
 
+// Each file has one, so that no two of the same name meet.
+std::string folderOf(const std::string& folder, const std::string& name, qsizetype number) {
+  return folder + "/" + name + "-" + std::to_string(number);
+}
+
+Failure notWritten(const std::string& path, int reason) {
+  return path + " can't be written: " + describeError(reason) + ".";
+}
+
 bool writeFile(const std::string& path, std::string_view bytes, const std::atomic<bool>& isStopped,
                const std::function<void(std::size_t)>& took) {
   const FileDescriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600));
@@ -77,14 +86,14 @@ Result<HandedMail> makeHandedMail(const MailMessage& message, const std::string&
         std::make_shared<const MailAttachment>(MailAttachment{message.body, "", file}));
   }
   for (const SharedAttachment& attachment : attachments) {
-    const std::string own = folder + "/" + name + "-" + std::to_string(mail.files.size() + 1);
+    const std::string own = folderOf(folder, name, mail.files.size() + 1);
     if (Failure failure = makePrivateFolder(own)) return {std::nullopt, *failure};
     const std::string path = own + "/" + fileNameOf(*attachment);
     if (!writeFile(path, attachment->data, isStopped, took)) {
-      const std::string reason = describeError(errno);
+      Failure failure = notWritten(path, errno);
       std::error_code ignored;
       std::filesystem::remove_all(own, ignored);
-      return {std::nullopt, path + " can't be written: " + reason + "."};
+      return {std::nullopt, *std::move(failure)};
     }
     mail.files += fromUtf8(path);
   }

@@ -26,10 +26,8 @@ class PortalMail final : public QObject, public MailHandOver {
   PortalMail(const HandedMail& mail, const QWidget* window, Done done);
   ~PortalMail() override;
 
- private Q_SLOTS:
-  void onResponse(uint response, const QVariantMap& results);
-
  private:
+  Q_SLOT void onResponse(uint response, const QVariantMap& results);
   void listenTo(const QString& request);
   void onAccepted();
   void finish(Outcome outcome, const std::string& failure = "");

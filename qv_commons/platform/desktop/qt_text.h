@@ -2,13 +2,17 @@
 #pragma once
 
 #include <QString>
+#include <QStringDecoder>
 #include <string>
 #include <string_view>
 
 namespace qv_commons::desktop {
 
+// QString's own way leaves out a mark U+FEFF at the beginning.
 inline QString fromUtf8(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+  using Flag = QStringDecoder::Flag;
+  QStringDecoder decode(QStringDecoder::Utf8, Flag::Stateless | Flag::ConvertInitialBom);
+  return decode(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
 }
 
 inline std::string toUtf8(const QString& text) {

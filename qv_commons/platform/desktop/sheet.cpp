@@ -208,7 +208,7 @@ bool Sheet::event(QEvent* event) {
   return true;
 }
 
-// The system's own wish, when the application quits, is not refused.
+// The system's own request, when the application quits, is not refused.
 void Sheet::closeEvent(QCloseEvent* event) {
   if (!event->spontaneous()) return;
   event->ignore();

@@ -35,10 +35,10 @@ class Wheel final : public QWidget {
   static int rowHeightFor(const QFont& font);
   static int heightFor(const QFont& font);  // of the rows that are in sight
 
-  // The user's wish for a row further on, or back; at an end nothing happens.
+  // The user asks for the next row, or the one before; at an end nothing happens.
   void turnBy(int rows);
 
-  // The user's wish for that number, see `DateWheels::type`.
+  // The user asks for that number, see `DateWheels::type`.
   void turnToNumber(int number) { emit typed(number); }
 
  signals:

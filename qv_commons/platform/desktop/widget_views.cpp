@@ -1,7 +1,7 @@
 #include "qv_commons/platform/desktop/widget_views.h"
 
-#include <QPointer>
 #include <QTextCursor>
+#include <QTextDocument>
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -43,6 +43,14 @@ void setColor(QWidget& widget, QPalette::ColorGroup group, QPalette::ColorRole r
   QPalette palette = widget.palette();
   palette.setColor(group, role, color);
   widget.setPalette(palette);
+}
+
+// The cursor that has selected `range` of `document`.
+QTextCursor cursorAt(QTextDocument& document, TextRange range) {
+  QTextCursor cursor(&document);
+  cursor.setPosition(static_cast<int>(range.location));
+  cursor.setPosition(static_cast<int>(range.location + range.length), QTextCursor::KeepAnchor);
+  return cursor;
 }
 
 }  // namespace
@@ -109,25 +117,26 @@ LinkedTextView::LinkedTextView(LinkTextView& widget, LinkOpener open, const Late
       [this, later](const QString& target) { later([this, target] { follow(target); }); });
 }
 
-std::unique_ptr<AttributedString> LinkedTextView::attributedText() const {
-  return std::make_unique<DocumentText>(*widget_.document(), links_);
+// Without the mark that ends every document.
+std::optional<std::size_t> LinkedTextView::textLength() const {
+  return static_cast<std::size_t>(widget_.document()->characterCount() - 1);
 }
 
-void LinkedTextView::setAttributedText(const AttributedString& text) {
-  const auto& own = static_cast<const DocumentText&>(text);
-  QTextDocument* copy = own.document().clone(&widget_);
-  copy->setDefaultFont(widget_.font());
-  copy->setDocumentMargin(0);
-  links_ = own.links();
-  paintLinks(*copy);
-  const QPointer<QTextDocument> before = widget_.document();
-  widget_.setDocument(copy);
-  delete before;  // unless it was the first, which Qt deletes itself
-}
-
-void LinkedTextView::setLinkTextAttributes(const Color& foreground) {
+// No value is ever taken for a URL and written another way: the document holds its place instead.
+void LinkedTextView::addLinks(const std::vector<TextLink>& links, const Color& foreground) {
   linkColor_ = toQColor(foreground);
-  paintLinks(*widget_.document());
+  QTextCursor edit(widget_.document());
+  edit.beginEditBlock();  // the text is laid out once, at the end
+  for (const TextLink& link : links) {
+    QTextCharFormat format;
+    format.setAnchor(true);
+    format.setAnchorHref(QString::number(links_.size()));
+    format.setFontUnderline(false);
+    cursorAt(*widget_.document(), link.range).mergeCharFormat(format);
+    links_.push_back(link);
+  }
+  paintLinks();
+  edit.endEditBlock();
 }
 
 void LinkedTextView::setTextColor(const Color& color) {
@@ -135,19 +144,19 @@ void LinkedTextView::setTextColor(const Color& color) {
   format.setForeground(toQColor(color));
   QTextCursor all(widget_.document());
   all.select(QTextCursor::Document);
-  all.beginEditBlock();  // the text is laid out once, at the end
+  all.beginEditBlock();
   all.mergeCharFormat(format);
-  paintLinks(*widget_.document());
+  paintLinks();
   all.endEditBlock();
   setColor(widget_, QPalette::All, QPalette::Text, toQColor(color));
 }
 
-void LinkedTextView::paintLinks(QTextDocument& document) const {
+void LinkedTextView::paintLinks() const {
   if (!linkColor_.isValid()) return;
   QTextCharFormat format;
   format.setForeground(linkColor_);
-  for (const LinkRun& link : links_) {
-    cursorAt(document, link.range).mergeCharFormat(format);
+  for (const TextLink& link : links_) {
+    cursorAt(*widget_.document(), link.range).mergeCharFormat(format);
   }
 }
 
@@ -155,7 +164,7 @@ void LinkedTextView::follow(const QString& target) {
   bool isOurs = false;
   const std::size_t number = target.toULong(&isOurs);
   if (!isOurs || number >= links_.size()) return;
-  const LinkRun link = links_[number];  // the delegate may take the screen away
+  const TextLink link = links_[number];  // the delegate may take the screen away
   const LinkOpener open = open_;
   if (delegate_ == nullptr || delegate_->shouldInteractWithURL(*this, link.value, link.range)) {
     open(link.value);

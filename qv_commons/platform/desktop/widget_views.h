@@ -8,7 +8,6 @@
 #include <memory>
 
 #include "qv_commons/platform/desktop/backdrop.h"
-#include "qv_commons/platform/desktop/document_text.h"
 #include "qv_commons/platform/desktop/link_text_view.h"
 #include "qv_commons/platform/desktop/screen_button.h"
 #include "qv_commons/platform/desktop/wheel_date_picker.h"
@@ -94,19 +93,18 @@ class LinkedTextView final : public WidgetView<TextView> {
  public:
   LinkedTextView(LinkTextView& widget, LinkOpener open, const Later& later);
 
-  std::unique_ptr<AttributedString> attributedText() const override;
-  void setAttributedText(const AttributedString& text) override;
-  void setLinkTextAttributes(const Color& foreground) override;
+  std::optional<std::size_t> textLength() const override;
+  void addLinks(const std::vector<TextLink>& links, const Color& foreground) override;
   void setTextColor(const Color& color) override;
   void setDelegate(TextViewDelegate* delegate) override { delegate_ = delegate; }
 
  private:
   void follow(const QString& target);
-  void paintLinks(QTextDocument& document) const;
+  void paintLinks() const;
 
   LinkTextView& widget_;
   LinkOpener open_;
-  std::vector<LinkRun> links_;
+  std::vector<TextLink> links_;  // marked in the document by their places here
   QColor linkColor_;
   TextViewDelegate* delegate_ = nullptr;
 };

@@ -14,7 +14,7 @@ MemoryPlatform::MemoryPlatform()
                 .viewControllers = viewControllers_} {}
 
 MemoryPlatform::~MemoryPlatform() {
-  transitions_.presentations().dismissAll();
+  dismissAll(transitions_.presentations());
 }
 
 std::shared_ptr<ViewController> MemoryPlatform::makeViewController(std::string name,

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <utility>
 
-#include "qv_commons/age_gate/tapped_link.h"
+#include "qv_commons/age_gate/policy_links.h"
 #include "qv_commons/platform/fatal_error.h"
 
 namespace qv_commons::memory {
@@ -74,7 +74,7 @@ bool MemoryScreen::pick(std::string_view datePicker, Instant date) {
 bool MemoryScreen::tapLink(std::string_view textView, std::size_t unit) {
   if (!isOnTop()) return false;
   auto& tapped = view<MemoryTextView>(textView);
-  const std::optional<Link> link = tapped.choosableLinkAt(unit);
+  const std::optional<TextLink> link = tapped.choosableLinkAt(unit);
   if (!link) return false;
   interactWithLink(tapped, tapped.delegate(), link->value, link->range, application_);
   return true;

@@ -10,7 +10,7 @@ namespace {
 constexpr std::string_view kReplacement = "\xEF\xBF\xBD";  // U+FFFD
 
 // The text with U+FFFD for each byte that is not part of a character.
-std::string mended(std::string_view text) {
+std::string replaceInvalidUtf8(std::string_view text) {
   constexpr std::size_t kLongestCharacter = 4;
   std::string result;
   while (!text.empty()) {
@@ -54,7 +54,7 @@ void appendCharacter(std::string& target, char32_t character) {
 }  // namespace
 
 NSString* toNSString(std::string_view utf8) {
-  if (!isUtf8(utf8)) return toNSString(mended(utf8));
+  if (!isUtf8(utf8)) return toNSString(replaceInvalidUtf8(utf8));
   return [[NSString alloc] initWithBytes:utf8.data()
                                   length:utf8.size()
                                 encoding:NSUTF8StringEncoding];

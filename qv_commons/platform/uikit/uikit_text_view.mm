@@ -31,37 +31,24 @@ id<UITextViewDelegate> screenOf(TextViewDelegate* delegate) {
   return static_cast<id<UITextViewDelegate>>(controller);
 }
 
-class MutableText final : public AttributedString {
- public:
-  explicit MutableText(NSAttributedString* text)
-      : text_([[NSMutableAttributedString alloc] initWithAttributedString:text]) {}
-
-  NSAttributedString* nsAttributedString() const { return text_; }
-
-  std::size_t length() const override { return text_.length; }
-  void addLink(std::string_view value, TextRange range) override {
-    [text_ addAttribute:NSLinkAttributeName
-                  value:toNSString(value)
-                  range:NSMakeRange(range.location, range.length)];
-  }
-
- private:
-  NSMutableAttributedString* text_;
-};
-
 class TextViewView final : public ViewOver<TextView, UITextView> {
  public:
   using ViewOver::ViewOver;
 
-  std::unique_ptr<AttributedString> attributedText() const override {
+  std::optional<std::size_t> textLength() const override {
     NSAttributedString* text = view().attributedText;
-    return text == nil ? nullptr : std::make_unique<MutableText>(text);
+    return text == nil ? std::nullopt : std::optional<std::size_t>(text.length);
   }
-  void setAttributedText(const AttributedString& text) override {
-    view().attributedText = static_cast<const MutableText&>(text).nsAttributedString();
-  }
-  void setLinkTextAttributes(const Color& foreground) override {
+  void addLinks(const std::vector<TextLink>& links, const Color& foreground) override {
+    NSMutableAttributedString* text =
+        [[NSMutableAttributedString alloc] initWithAttributedString:view().attributedText];
+    for (const TextLink& link : links) {
+      [text addAttribute:NSLinkAttributeName
+                   value:toNSString(link.value)
+                   range:NSMakeRange(link.range.location, link.range.length)];
+    }
     view().linkTextAttributes = @{NSForegroundColorAttributeName : toUIColor(foreground)};
+    view().attributedText = text;
   }
   void setTextColor(const Color& color) override { view().textColor = toUIColor(color); }
   void setDelegate(TextViewDelegate* delegate) override {
