@@ -52,10 +52,12 @@ TEST_F(HandedMails, AreForTheUsersEyesAlone) {
   EXPECT_EQ(status.st_mode & 0777, 0700U);
 }
 
-// A link carries three characters for a byte, and has room for 100,000 of them.
+// A link carries three characters for most bytes and six for a line end, and has room for 100,000.
 TEST_F(HandedMails, CarryAsAFileWhatIsNoShortText) {
-  const std::string longest(33'333, '\n');
+  const std::string longest(16'666, '\n');
   EXPECT_EQ(handed(messageWith(longest)).body.toStdString(), longest);
+  EXPECT_EQ(handed(messageWith(std::string(33'333, '='))).body, QString(33'333, '='));
+  EXPECT_EQ(handed(messageWith(std::string(100'000, 'x'))).body, QString(100'000, 'x'));
   for (const std::string& body :
        {longest + "\n", std::string(1'000'000, 'x'), std::string("a\0b", 3), std::string("\xff")}) {
     const HandedMail mail = handed(messageWith(body));

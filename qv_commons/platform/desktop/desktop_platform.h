@@ -62,7 +62,7 @@ struct DesktopSettings {
   // Of these ways, the first that is there when a composer opens is taken; where the desktop can't
   // take the message, the next one, and last the library's own composer shows why, with the message
   // in it. With none, no mail can be sent. Names of recipients are not handed over to the desktop,
-  // and a body that is no text or more than 33,000 bytes may go as an attached file.
+  // and a body that is no text or more than 16,000 bytes may go as an attached file.
   std::vector<MailWay> mailWays = {MailWay::sendmail, MailWay::portal, MailWay::xdgEmail};
 
   // The sendmail program, called as `program arguments -t -i` with the message on its standard

@@ -1,6 +1,5 @@
 #include "qv_commons/platform/desktop/mail_hand_over.h"
 
-#include <algorithm>
 #include <ctime>
 #include <fcntl.h>
 #include <filesystem>
@@ -22,13 +21,15 @@ constexpr std::size_t kLongestLinkedBody = 100'000;
 constexpr const char* kBodyIsAttached =
     "My message is in the attached file %1: it could not be handed over as text.";
 
-// A link carries letters and digits as they stand and any other byte as three characters.
+// A link carries letters and digits as they stand, a line end as "%0D%0A", and any other byte as
+// three characters.
 std::size_t lengthInLink(std::string_view text) {
-  const auto isPlain = [](char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
-  };
-  const auto plain = std::count_if(text.begin(), text.end(), isPlain);
-  return 3 * text.size() - 2 * static_cast<std::size_t>(plain);
+  std::size_t length = 0;
+  for (const char c : text) {
+    const bool isPlain = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
+    length += isPlain ? 1 : c == '\n' ? 6 : 3;
+  }
+  return length;
 }
 
 bool isLinkable(const MailMessage& message) {
