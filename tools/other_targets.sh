@@ -31,7 +31,7 @@ cross() {
 }
 
 # What the presets and the plain build of tests/routes leave out: -O0, -O2 and -O3 are theirs, and clang
-# at -O1. In a few large pieces, as that takes a fifth of the time.
+# at -O1. In a few large pieces, as that takes a fraction of the time.
 warnings() {
   local unity=-DCMAKE_UNITY_BUILD=ON
   for level in -O1 "-O2 -flto"; do

@@ -32,7 +32,7 @@ expect_failure() {
 }
 
 # For builds of the whole library beyond the plain one: its sources in a few large pieces, as some
-# projects build, which takes a fifth of the time.
+# projects build, which takes a fraction of the time.
 unity=-DCMAKE_UNITY_BUILD=ON
 
 # The program with this library's age gate, and the same for the memory adapter.
