@@ -3,7 +3,6 @@
 //
 // The main thread's share is counted in pages that it touches for the first time. With
 // QV_PRINT_TIMES=1 in the environment, the longest time that the window was held is printed too.
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QMenu>
 #include <QPlainTextEdit>
@@ -13,6 +12,7 @@
 #include <QTimer>
 #include <algorithm>
 #include <cstdio>
+#include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <gmock/gmock.h>
@@ -42,24 +42,30 @@ long memory(const std::string& name) {
   return std::stol(status.substr(status.find("\n" + name + ":") + name.size() + 2));
 }
 
-// The event loop's longest turn.
+double milliseconds(clockid_t clock) {
+  timespec now = {};
+  ::clock_gettime(clock, &now);
+  return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
+}
+
+// The event loop's longest turn, by the clock on the wall or by what the main thread did itself.
 class Heartbeat {
  public:
-  Heartbeat() {
-    sinceLast_.start();
+  explicit Heartbeat(clockid_t clock) : clock_(clock) {
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] {
-      longest_ = std::max(longest_, sinceLast_.nsecsElapsed());
-      sinceLast_.start();
+      const double now = milliseconds(clock_);
+      longest_ = std::max(longest_, now - std::exchange(last_, now));
     });
     timer_.start(0);
   }
 
-  double takeMilliseconds() { return static_cast<double>(std::exchange(longest_, 0)) / 1e6; }
+  double take() { return std::exchange(longest_, 0); }
 
  private:
+  clockid_t clock_;
   QTimer timer_;
-  QElapsedTimer sinceLast_;
-  qint64 longest_ = 0;
+  double last_ = milliseconds(clock_);
+  double longest_ = 0;
 };
 
 struct Host final : QV_SupportHelperDelegate {
@@ -112,10 +118,11 @@ class LargeMail : public testing::Test {
   // The pages that the main thread has touched since the last step; and says how long it took.
   long finishStep(const char* name) {
     settle();
-    const double held = heartbeat_.takeMilliseconds();
+    const double held = onTheWall_.take();
+    const double own = ofTheThread_.take();
     if (qEnvironmentVariableIsSet("QV_PRINT_TIMES") && *name != '\0') {
-      std::printf("%-22s held the window for %6.1f ms at most; %4ld MB at most so far\n", name,
-                  held, (memory("VmHWM") - base_) / 1000);
+      std::printf("%-16s held the window for %5.1f ms at most, %5.1f of its own; %3ld MB at most\n",
+                  name, held, own, (memory("VmHWM") - base_) / 1000);
     }
     return mainThreadPages() - std::exchange(pages_, mainThreadPages());
   }
@@ -131,7 +138,8 @@ class LargeMail : public testing::Test {
   std::shared_ptr<ViewController> screen_ = desktop_.viewController(window_);
   std::shared_ptr<QV_SupportHelper> helper_ = QV_SupportHelper::create();
   std::shared_ptr<Host> host_ = std::make_shared<Host>();
-  Heartbeat heartbeat_;
+  Heartbeat onTheWall_{CLOCK_MONOTONIC};
+  Heartbeat ofTheThread_{CLOCK_THREAD_CPUTIME_ID};
   long base_ = 0;
   long pages_ = 0;
 };
@@ -165,6 +173,30 @@ TEST_F(LargeMail, WithAReceiptIsNotTheMainThreadsWork) {
   ASSERT_TRUE(waitForLong([&] { return host_->completions == 3; }));
   EXPECT_LT(finishStep("send"), kFewPages);
   EXPECT_LT(memory("VmHWM") - base_, static_cast<long>(2 * message / 1024));
+}
+
+TEST_F(LargeMail, IsHandedOverBesideTheMainThread) {
+  folder_.write("bundle/StoreKit/receipt", std::string(kReceipt, 'x'));
+  folder_.write("bin/xdg-email", "");
+  folder_.writeProgram("bin/xdg-email", "exit 0");
+  const QByteArray path = qgetenv("PATH");
+  qputenv("PATH", QByteArray::fromStdString(folder_.path("bin") + ":") + path);
+  const DesktopPlatform desktop({.bundleDirectory = folder_.path("bundle"),
+                                 .dataDirectory = folder_.path("data"),
+                                 .mailWays = {MailWay::xdgEmail}});
+  const ScopedPlatform scope(desktop.platform());
+  const auto screen = desktop.viewController(window_);
+  start();
+  helper_->contactSupport(*screen, "support@example.com", "Help", {}, std::nullopt, "", host_);
+  EXPECT_TRUE(waitForLong([&] { return host_->completions == 2; }));
+  EXPECT_LT(finishStep("hand over"), kFewPages);
+  qputenv("PATH", path);
+  const std::vector<std::string> folders = folder_.list("data/handed-over");
+  ASSERT_EQ(folders.size(), 1U);
+  EXPECT_EQ(std::filesystem::file_size(
+                folder_.path("data/handed-over/" + folders[0] + "/Receipt-Data.txt")),
+            133'333'332U);
+  EXPECT_LT(memory("VmHWM") - base_, 2 * 133'333'332 / 1024);
 }
 
 TEST_F(LargeMail, ShowsHowFarItIsAndCanBeStopped) {
