@@ -16,6 +16,19 @@
 
 namespace qv_commons::desktop {
 
+namespace {
+
+// A turn may end before what waits in the queue has come up.
+void settle() {
+  for (int turn = 0; turn < 5; ++turn) {
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+}
+
+}  // namespace
+
 OpenedLinks::OpenedLinks() {
   QDesktopServices::setUrlHandler("https", this, "open");
 }
@@ -43,7 +56,7 @@ void AgeGateTest::end() {
   // A screen and the host that presents it keep each other.
   if (host_ != nullptr && host_->presentedViewController() != nullptr) {
     host_->dismissViewController(false, nullptr);
-    QTest::qWait(1);
+    settle();
   }
   theme_.reset();
   host_.reset();
@@ -92,7 +105,7 @@ void AgeGateTest::startAgeGate(std::int64_t minimumAge) {
         if (onContact_) onContact_(screen);
       },
       theme_, privacyLink_, termsLink_);
-  QTest::qWait(1);
+  settle();
 }
 
 QWidget* AgeGateTest::screenWith(const char* view) {
@@ -119,19 +132,19 @@ void AgeGateTest::click(QWidget& widget, QPoint place) {
     scroll->ensureVisible(inContent.x(), inContent.y());
   }
   QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, widget.mapTo(window, place));
-  QTest::qWait(1);
+  settle();
 }
 
 void AgeGateTest::press(QWidget& screen, int key, Qt::KeyboardModifiers modifiers) {
   QTest::keyClick(screen.window()->windowHandle(), static_cast<Qt::Key>(key), modifiers);
-  QTest::qWait(1);
+  settle();
 }
 
 void AgeGateTest::type(QWidget& screen, const char* text) {
   for (const char* character = text; *character != '\0'; ++character) {
     QTest::keyClick(screen.window()->windowHandle(), *character);
   }
-  QTest::qWait(1);
+  settle();
 }
 
 void AgeGateTest::pickYear(QWidget& gate, const char* year) {

@@ -143,8 +143,7 @@ TEST_F(AgeGateTest, GoesWithTheHostsWindow) {
   const std::weak_ptr<ViewController> shown = host_->presentedViewController()->retained();
   host_.reset();
   window_.reset();
-  QTest::qWait(1);
-  EXPECT_TRUE(shown.expired());
+  EXPECT_TRUE(QTest::qWaitFor([&shown] { return shown.expired(); }));
 }
 
 // A message box that the host shows when it is told, and in whose time all that waits is done.
@@ -173,7 +172,8 @@ TEST_F(AgeGateTest, CompletesOnceForTwoClicksInOneTurn) {
   auto& button = view<QPushButton>(*gate(), "confirmBtn");
   button.click();
   button.click();
-  QTest::qWait(1);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return completions_ > 0; }));
+  QTest::qWait(20);
   EXPECT_EQ(completions_, 1);
 }
 
@@ -366,7 +366,7 @@ TEST_F(AgeGateTest, RemembersTheRefusalBeforeItIsSeen) {
     return other.platform().userDefaults.boolForKey("QV_AgeGate_Blocked");
   });
   view<QPushButton>(*gate(), "confirmBtn").click();
-  QTest::qWait(1);
+  EXPECT_TRUE(QTest::qWaitFor([&remembered] { return remembered.answer().has_value(); }));
   EXPECT_EQ(remembered.answer(), true);
   ASSERT_NE(refusal(), nullptr);
 }
