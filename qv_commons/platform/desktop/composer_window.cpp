@@ -83,7 +83,7 @@ QString sizeText(std::size_t bytes) {
 
 }  // namespace
 
-ComposerWindow::ComposerWindow(const Callbacks& callbacks) : callbacks_(callbacks) {
+ComposerWindow::ComposerWindow(Callbacks callbacks) : callbacks_(std::move(callbacks)) {
   setProperty("role", "page");
   setWindowTitle("New message");
   auto* layout = new QVBoxLayout(this);

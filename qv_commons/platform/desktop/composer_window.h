@@ -32,7 +32,7 @@ class ComposerWindow final : public QWidget {
     std::function<void()> hidden;  // with the window around it, or because the composer goes
   };
 
-  explicit ComposerWindow(const Callbacks& callbacks);
+  explicit ComposerWindow(Callbacks callbacks);
 
   // Nobody is called any more.
   void forgetCallbacks() { callbacks_ = {}; }

@@ -121,7 +121,8 @@ bool LinkTextView::focusNextPrevChild(bool isNext) {
   const int next = focused_ + (isNext ? 1 : -1);
   const bool isThere =
       hasFocus() && focused_ != kNone && next >= 0 && next < static_cast<int>(links_.size());
-  if (!isThere) return QWidget::focusNextPrevChild(isNext);
+  // Not QTextBrowser's, which goes to links of its own.
+  if (!isThere) return QWidget::focusNextPrevChild(isNext);  // NOLINT(bugprone-parent-virtual-call)
   moveFocus(next);
   return true;
 }

@@ -7,6 +7,7 @@
 #include <QDialog>
 #include <QString>
 #include <QTimer>
+#include <utility>
 
 #include "qv_commons/platform/desktop/sheet.h"
 #include "qv_commons/platform/desktop/style_boundary.h"
@@ -76,7 +77,7 @@ class AccessibleCovered final : public QAccessibleObject {
 // time.
 class Announcer final : public QObject {
  public:
-  explicit Announcer(const QString& announced) : QObject(qApp), text(announced) {
+  explicit Announcer(QString announced) : QObject(qApp), text(std::move(announced)) {
     constexpr int kLifeMilliseconds = 10'000;
     QTimer::singleShot(kLifeMilliseconds, this, &QObject::deleteLater);
   }
