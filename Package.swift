@@ -4,6 +4,12 @@ import PackageDescription
 // The host name of the maker's web site, on which the legal documents are: a fork sets its own here.
 let makerHost = "www.example.com"
 
+// The languages of the screens, beside the base, which is English.
+let languages = [
+    "ar", "de", "es", "fr", "he", "hi", "it", "ja", "ko", "nl", "pl", "pt", "ru", "tr", "uk",
+    "zh-Hans", "zh-Hant",
+]
+
 var targets: [Target] = [
     .target(
         name: "QVCommonsCore",
@@ -39,11 +45,8 @@ targets += [
     .target(
         name: "iOS",
         path: "swift/resources",
-        resources: [
-            .process("QV_AgeGateViewController.xib"),
-            .process("QV_AgeGateRefusedViewController.xib"),
-            .copy("PrivacyInfo.xcprivacy"),
-        ]),
+        resources: (["Base"] + languages).map { .process("\($0).lproj") }
+            + [.copy("PrivacyInfo.xcprivacy")]),
     .target(
         name: "QV_Commons_iOS",
         dependencies: ["QVCommonsCore", "iOS"],
@@ -57,6 +60,7 @@ products.append(.library(name: "QV_Commons_iOS", targets: ["QV_Commons_iOS"]))
 
 let package = Package(
     name: "QV_Commons",
+    defaultLocalization: "en",
     platforms: [.iOS("11.0")],
     products: products,
     targets: targets,

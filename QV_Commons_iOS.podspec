@@ -17,7 +17,8 @@ Pod::Spec.new do |spec|
   spec.public_header_files = 'qv_commons/platform/uikit/include/QV_Commons_iOS/*.h'
   spec.header_dir = 'QV_Commons_iOS'
   spec.resource_bundles = {
-    'QV_Commons_iOS' => 'qv_commons/resources/QV_Commons_iOS.bundle/*.{xib,xcprivacy}'
+    'QV_Commons_iOS' => ['qv_commons/resources/QV_Commons_iOS.bundle/*.lproj/*.{xib,strings}',
+                         'qv_commons/resources/QV_Commons_iOS.bundle/*.xcprivacy']
   }
 
   spec.frameworks = 'Foundation', 'UIKit', 'MessageUI'

@@ -35,9 +35,10 @@ framework module QV_Commons_iOS {
   module * { export * }
 }
 MAP
-  cp "$resources/PrivacyInfo.xcprivacy" "$resources/Info.plist" "$made/QV_Commons_iOS.bundle"
-  for layout in "$resources"/*.xib; do
-    xcrun ibtool --compile "$made/QV_Commons_iOS.bundle/$(basename "${layout%.xib}").nib" "$layout"
+  cp -R "$resources/PrivacyInfo.xcprivacy" "$resources/Info.plist" "$resources"/*.lproj "$made/QV_Commons_iOS.bundle"
+  for layout in "$made"/QV_Commons_iOS.bundle/Base.lproj/*.xib; do
+    xcrun ibtool --compile "${layout%.xib}.nib" "$layout"
+    rm "$layout"
   done
   cat >"$made/Info.plist" <<PLIST
 <?xml version="1.0" encoding="UTF-8"?>

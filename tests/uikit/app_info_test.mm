@@ -67,8 +67,9 @@ TEST_F(UIKitAppInfo, HasNoTextForValuesOfOtherTypes) {
 TEST_F(UIKitAppInfo, FindsTheResourceBundle) {
   NSBundle* bundle = [QV_BundleFileHelper getQVCommonsResourceBundle];
   EXPECT_OBJECT(bundle.bundlePath.lastPathComponent, @"QV_Commons_iOS.bundle");
-  EXPECT_NE([bundle pathForResource:@"QV_AgeGateViewController" ofType:@"xib"], nil);
-  EXPECT_NE([bundle pathForResource:@"QV_AgeGateRefusedViewController" ofType:@"xib"], nil);
+  for (NSString* name in @[ @"QV_AgeGateViewController", @"QV_AgeGateRefusedViewController" ]) {
+    EXPECT_NE([bundle pathForResource:name ofType:@"xib" inDirectory:@"Base.lproj"], nil);
+  }
 }
 
 TEST_F(UIKitAppInfo, ReadsAJsonFileAsItIs) {

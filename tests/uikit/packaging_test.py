@@ -10,7 +10,7 @@ import subprocess
 import unittest
 
 import python_test
-from xib_document import BUNDLE, SCREENS
+from xib_document import BUNDLE, LANGUAGES, SCREENS
 
 ROOT = os.path.realpath(os.path.join(os.path.dirname(os.path.abspath(__file__)), '../..'))
 
@@ -42,6 +42,12 @@ def matched(patterns):
             for path in glob.glob(each, root_dir=ROOT)}
 
 
+def resources():
+    """What of the bundle's files an app for iOS takes in."""
+    return {'PrivacyInfo.xcprivacy', *(f'Base.lproj/{screen}.xib' for screen in SCREENS),
+            *(f'{language}.lproj/{screen}.strings' for language in LANGUAGES for screen in SCREENS)}
+
+
 class SwiftPackage(unittest.TestCase):
     manifest = read('Package.swift')
 
@@ -59,11 +65,16 @@ class SwiftPackage(unittest.TestCase):
         self.assertTrue(os.path.isfile(os.path.join(ROOT, 'swift/core/include/qv_commons/qv_commons.h')))
 
     def test_its_resources_are_the_bundles(self):
-        named = re.findall(r'\.(?:process|copy)\("([^"]+)"\)', self.manifest)
-        self.assertEqual(sorted(named), sorted(['PrivacyInfo.xcprivacy', *(f'{screen}.xib' for screen in SCREENS)]))
-        for name in named:
+        languages = re.search(r'let languages = \[(.*?)\]', self.manifest, re.S)[1]
+        self.assertEqual(re.findall('"([^"]+)"', languages), list(LANGUAGES))
+        self.assertIn('(["Base"] + languages).map { .process("\\($0).lproj") }', self.manifest)
+        self.assertIn('defaultLocalization: "en"', self.manifest)
+        self.assertEqual(re.findall(r'\.copy\("([^"]+)"\)', self.manifest), ['PrivacyInfo.xcprivacy'])
+        for name in resources():
             self.assertTrue(os.path.samefile(os.path.join(ROOT, 'swift/resources', name),
                                              os.path.join(BUNDLE, name)))
+        folder = os.path.join(ROOT, 'swift/resources')
+        self.assertEqual(set(glob.glob('*.lproj/*', root_dir=folder)) | {'PrivacyInfo.xcprivacy'}, resources())
 
     def test_the_bundle_has_the_name_that_the_library_asks_for(self):
         package = re.search(r'Package\(\s*name: "([^"]+)"', self.manifest)[1]
@@ -88,10 +99,10 @@ class Podspec(unittest.TestCase):
         self.assertEqual(found, listed_by_cmake('qv_commons') | listed_by_cmake('qv_commons/platform/uikit'))
 
     def test_its_bundle(self):
-        name, pattern = re.search(r"'(\w+)' => '([^']+)'", self.spec).groups()
+        name, patterns = re.search(r"'(\w+)' => \[(.*?)\]", self.spec, re.S).groups()
         self.assertEqual(f'{name}.bundle', os.path.basename(BUNDLE))
-        self.assertEqual({os.path.basename(path) for path in matched([pattern])},
-                         {'PrivacyInfo.xcprivacy', *(f'{screen}.xib' for screen in SCREENS)})
+        self.assertEqual({os.path.relpath(os.path.join(ROOT, path), BUNDLE)
+                          for path in matched(re.findall("'([^']+)'", patterns))}, resources())
 
     @unittest.skipUnless(shutil.which('ruby'), 'needs ruby')
     def test_it_is_ruby(self):

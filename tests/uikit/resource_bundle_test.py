@@ -8,7 +8,7 @@ import re
 import unittest
 
 import python_test
-from xib_document import BUNDLE, SCREENS
+from xib_document import BUNDLE, LANGUAGES, SCREENS
 
 ROOT = os.path.join(os.path.dirname(os.path.abspath(__file__)), '../..')
 
@@ -34,8 +34,14 @@ class ResourceBundle(unittest.TestCase):
 
     def test_its_files(self):
         self.assertEqual(sorted(os.listdir(BUNDLE)), sorted(
-            ['Info.plist', 'PrivacyInfo.xcprivacy'] +
-            [screen + kind for screen in SCREENS for kind in ('.ui', '.xib')]))
+            ['Info.plist', 'PrivacyInfo.xcprivacy', 'Base.lproj'] +
+            [screen + '.ui' for screen in SCREENS] +
+            [language + '.lproj' for language in LANGUAGES]))
+        for language in LANGUAGES:
+            self.assertEqual(sorted(os.listdir(os.path.join(BUNDLE, language + '.lproj'))),
+                             sorted(screen + '.strings' for screen in SCREENS))
+        self.assertEqual(sorted(os.listdir(os.path.join(BUNDLE, 'Base.lproj'))),
+                         sorted(screen + '.xib' for screen in SCREENS))
 
 
 if __name__ == '__main__':

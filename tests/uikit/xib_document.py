@@ -6,6 +6,9 @@ from dataclasses import dataclass, field, replace
 
 BUNDLE = os.path.join(os.path.dirname(__file__), '../../qv_commons/resources/QV_Commons_iOS.bundle')
 SCREENS = ('QV_AgeGateViewController', 'QV_AgeGateRefusedViewController')
+# Beside English, which the layouts themselves are in.
+LANGUAGES = ('ar', 'de', 'es', 'fr', 'he', 'hi', 'it', 'ja', 'ko', 'nl', 'pl', 'pt', 'ru', 'tr', 'uk',
+             'zh-Hans', 'zh-Hant')
 
 # The class that each element stands for, where it names none of its own.
 CLASSES = {
@@ -67,7 +70,7 @@ class Document:
 
     @classmethod
     def load(cls, screen):
-        with open(os.path.join(BUNDLE, screen + '.xib'), encoding='utf-8') as file:
+        with open(os.path.join(BUNDLE, 'Base.lproj', screen + '.xib'), encoding='utf-8') as file:
             return cls(file.read())
 
     def _add(self, element, parent):

@@ -30,7 +30,7 @@ SLACK = 0.01
 
 
 def read(screen):
-    with open(os.path.join(BUNDLE, screen + '.xib'), encoding='utf-8') as file:
+    with open(os.path.join(BUNDLE, 'Base.lproj', screen + '.xib'), encoding='utf-8') as file:
         return file.read()
 
 

@@ -28,7 +28,7 @@ STYLES = {'UICTFontTextStyleTitle1', 'UICTFontTextStyleBody', 'UICTFontTextStyle
 
 
 def read(screen):
-    with open(os.path.join(BUNDLE, screen + '.xib'), encoding='utf-8') as file:
+    with open(os.path.join(BUNDLE, 'Base.lproj', screen + '.xib'), encoding='utf-8') as file:
         return file.read()
 
 

@@ -47,6 +47,7 @@ NSDictionary<NSString*, NSNumber*>* controlEvents() {
 @interface StandinNib : NSObject <NSXMLParserDelegate>
 - (instancetype)initWithPath:(NSString*)path owner:(id)owner;
 - (void)load;
+- (void)translate:(NSDictionary<NSString*, NSString*>*)table;
 @end
 
 @implementation StandinNib {
@@ -147,6 +148,7 @@ NSDictionary<NSString*, NSNumber*>* controlEvents() {
                  forKey:@"text"];
   } else if ([element isEqual:@"accessibility"] && attributes[@"identifier"]) {
     [enclosing setAccessibilityIdentifier:attributes[@"identifier"]];
+    if (attributes[@"label"]) [enclosing setAccessibilityLabel:attributes[@"label"]];
   }
   _characters = [attributes[@"key"] isEqual:@"text"] ? [NSMutableString string] : nil;
   [_open addObject:object ?: [NSNull null]];
@@ -167,6 +169,20 @@ NSDictionary<NSString*, NSNumber*>* controlEvents() {
   _characters = nil;
   [_open removeLastObject];
   [_openNames removeLastObject];
+}
+
+- (void)translate:(NSDictionary<NSString*, NSString*>*)table {
+  for (NSString* key in table) {
+    const NSRange dot = [key rangeOfString:@"." options:NSBackwardsSearch];
+    if (dot.location == NSNotFound) continue;
+    id object = _objects[[key substringToIndex:dot.location]];
+    NSString* property = [key substringFromIndex:NSMaxRange(dot)];
+    if ([property isEqual:@"normalTitle"]) {
+      [object setTitle:table[key] forState:UIControlStateNormal];
+    } else {
+      [object setValue:table[key] forKey:property];
+    }
+  }
 }
 
 - (void)connect:(StandinConnection*)connection {
@@ -193,7 +209,25 @@ NSDictionary<NSString*, NSNumber*>* controlEvents() {
 
 @end
 
-void standin::loadNib(NSString* path, UIViewController* owner) {
+void standin::loadNib(NSString* path, UIViewController* owner,
+                      NSDictionary<NSString*, NSString*>* table) {
   const RecordPause pause;
-  [[[StandinNib alloc] initWithPath:path owner:owner] load];
+  StandinNib* nib = [[StandinNib alloc] initWithPath:path owner:owner];
+  [nib load];
+  [nib translate:table];
+}
+
+NSDictionary<NSString*, NSString*>* standin::stringTable(NSBundle* bundle, NSString* name) {
+  for (NSString* language in NSLocale.preferredLanguages) {
+    NSArray<NSString*>* subtags = [language componentsSeparatedByString:@"-"];
+    for (NSUInteger count = subtags.count; count > 0; --count) {
+      NSString* tried =
+          [[subtags subarrayWithRange:NSMakeRange(0, count)] componentsJoinedByString:@"-"];
+      NSString* folder = [tried stringByAppendingPathExtension:@"lproj"];
+      NSString* path = [bundle pathForResource:name ofType:@"strings" inDirectory:folder];
+      if (path != nil) return [NSDictionary dictionaryWithContentsOfFile:path];
+    }
+    if ([subtags.firstObject isEqual:@"en"]) return nil;
+  }
+  return nil;
 }

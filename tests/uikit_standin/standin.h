@@ -100,8 +100,14 @@ void setSearchField(UISearchBar* searchBar, id value);
 
 // Loads the layout in `path` (a .xib file) for its owner: makes the views, sets the owner's outlets
 // by key and connects the actions by selector. Raises NSInternalInconsistencyException, naming what
-// is wrong, where the platform would, and for an element it does not know.
-void loadNib(NSString* path, UIViewController* owner);
+// is wrong, where the platform would, and for an element it does not know. The words of `table`, by
+// keys such as "header.text", take the place of the layout's own.
+void loadNib(NSString* path, UIViewController* owner,
+             NSDictionary<NSString*, NSString*>* table = nil);
+
+// The string table of that name in the first of the user's languages that the bundle speaks, tried
+// with ever fewer of its subtags; nil where that is English, which the bundle's base is in.
+NSDictionary<NSString*, NSString*>* stringTable(NSBundle* bundle, NSString* name);
 
 // For the doubles: runs `done` when the transition ends.
 void afterTransition(BOOL animated, void (^done)(void));

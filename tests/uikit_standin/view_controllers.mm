@@ -71,12 +71,15 @@ typedef void (^StandinTransitionBlock)(id<UIViewControllerTransitionCoordinatorC
     if (_view == nil) _view = [UIView new];
   } else {
     NSBundle* bundle = _nibBundle ?: NSBundle.mainBundle;
-    NSString* path = [bundle pathForResource:_nibName ofType:@"xib"];
+    NSString* path = [bundle pathForResource:_nibName ofType:@"xib"]
+                         ?: [bundle pathForResource:_nibName
+                                             ofType:@"xib"
+                                        inDirectory:@"Base.lproj"];
     if (path == nil) {
       [NSException raise:NSInternalInconsistencyException
                   format:@"Could not load NIB in bundle: '%@' with name '%@'", bundle, _nibName];
     }
-    standin::loadNib(path, self);
+    standin::loadNib(path, self, standin::stringTable(bundle, _nibName));
     if (_view == nil) {
       [NSException raise:NSInternalInconsistencyException
                   format:@"loaded the \"%@\" nib but the view outlet was not set", _nibName];

@@ -74,6 +74,7 @@ using standin::note;
 @synthesize backgroundColor = _backgroundColor;
 @synthesize clipsToBounds = _clipsToBounds;
 @synthesize accessibilityIdentifier = _accessibilityIdentifier;
+@synthesize accessibilityLabel = _accessibilityLabel;
 - (instancetype)init {
   if ((self = [super init])) {
     _subviews = [NSMutableArray array];

@@ -18,6 +18,7 @@ NS_ASSUME_NONNULL_BEGIN
 @property(nonatomic, copy, nullable) UIColor* backgroundColor;
 @property(nonatomic) BOOL clipsToBounds;
 @property(nonatomic, copy, nullable) NSString* accessibilityIdentifier;
+@property(nonatomic, copy, nullable) NSString* accessibilityLabel;
 - (void)addSubview:(UIView*)view;
 - (void)removeFromSuperview;
 @end
