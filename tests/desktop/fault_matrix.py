@@ -110,6 +110,15 @@ def reading_faults(folder):
                     injected("openat", error, [folder / FILE, folder / COPY]), copy_counts=False)
 
 
+def failing_folders(folder):
+    """A disk that fails while what was left there is looked through, at a start."""
+    for name in ("drafts", "handed-over"):
+        (folder / name).mkdir()
+        (folder / name / "left").touch()
+        reading_row(f"start: the second `getdents64` on {name} gives EIO", folder,
+                    strace("getdents64", "error=EIO:when=2", [folder / name]))
+
+
 def locks(folder):
     for names, copy_counts in ((("file", FILE),), True), ((("file", FILE), ("copy", COPY)), False):
         held = [sqlite3.connect(folder / path) for _, path in names]
@@ -256,6 +265,7 @@ def main():
             folder = Path(temporary) / "data"
             refused_user(folder)
             reading_faults(folder)
+            failing_folders(folder)
             locks(folder)
             damage(folder)
         writing_faults()

@@ -54,9 +54,7 @@ Failure writeDraft(const std::string& directory, const std::string& name,
 }
 
 void removeUnfinishedDrafts(const std::string& directory) {
-  std::error_code error;
-  for (const auto& entry : std::filesystem::directory_iterator(directory, error)) {
-    const std::string path = entry.path();
+  for (const std::string path : entriesOf(directory)) {
     if (!path.ends_with(kUnfinished)) continue;
     const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     if (file.isOpen() && ::flock(file.number(), LOCK_EX | LOCK_NB) == 0) ::unlink(path.c_str());
@@ -65,14 +63,12 @@ void removeUnfinishedDrafts(const std::string& directory) {
 
 std::vector<DraftSummary> listDrafts(const std::string& directory) {
   std::vector<DraftSummary> drafts;
-  std::error_code error;
-  for (const auto& entry : std::filesystem::directory_iterator(directory, error)) {
-    const std::string path = entry.path();
+  for (const std::string path : entriesOf(directory)) {
     struct stat status = {};
     if (!path.ends_with(kEnding) || ::stat(path.c_str(), &status) != 0) continue;
     if (!S_ISREG(status.st_mode)) continue;
-    drafts.push_back(
-        {entry.path().filename(), subjectOf(readBeginning(path)), status.st_mtim.tv_sec});
+    drafts.push_back({std::filesystem::path(path).filename(), subjectOf(readBeginning(path)),
+                      status.st_mtim.tv_sec});
   }
   std::sort(drafts.begin(), drafts.end(), [](const DraftSummary& one, const DraftSummary& other) {
     return one.written > other.written;

@@ -103,13 +103,11 @@ Result<HandedMail> makeHandedMail(const MailMessage& message, const std::string&
 
 void removeOldHandedMail(const std::string& folder) {
   constexpr std::time_t kWeek = 7 * 24 * 60 * 60;
-  std::error_code error;
-  for (const auto& entry : std::filesystem::directory_iterator(folder, error)) {
+  for (const std::filesystem::path& entry : entriesOf(folder)) {
     struct stat status = {};
-    if (::stat(entry.path().c_str(), &status) != 0) continue;
-    if (status.st_mtime < std::time(nullptr) - kWeek) {
-      std::filesystem::remove_all(entry.path(), error);
-    }
+    if (::stat(entry.c_str(), &status) != 0) continue;
+    std::error_code ignored;
+    if (status.st_mtime < std::time(nullptr) - kWeek) std::filesystem::remove_all(entry, ignored);
   }
 }
 

@@ -2,7 +2,6 @@
 
 #include <cerrno>
 #include <fcntl.h>
-#include <filesystem>
 #include <sys/stat.h>
 #include <system_error>
 
@@ -23,6 +22,17 @@ Failure makePrivateFolder(const std::string& folder) {
   // Another process may have made it meanwhile.
   if (std::filesystem::is_directory(path, error)) return std::nullopt;
   return "The folder " + folder + " can't be made: " + describeError(reason) + ".";
+}
+
+std::vector<std::filesystem::path> entriesOf(const std::string& folder) {
+  std::vector<std::filesystem::path> entries;
+  std::error_code error;
+  // A range-based loop would throw where a disk fails halfway.
+  for (auto entry = std::filesystem::directory_iterator(folder, error);
+       entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+    entries.push_back(entry->path());
+  }
+  return entries;
 }
 
 Failure syncFolder(const std::string& folder) {

@@ -1,7 +1,9 @@
 // Folders for the user's eyes alone.
 #pragma once
 
+#include <filesystem>
 #include <string>
+#include <vector>
 
 #include "qv_commons/platform/desktop/outcome.h"
 
@@ -10,6 +12,9 @@ namespace qv_commons::desktop {
 // Makes `folder` and the folders above it that are missing, all of mode 0700, as the XDG rules for
 // data folders ask. Those that are there stay as they are. When this returns, they are on the disk.
 Failure makePrivateFolder(const std::string& folder);
+
+// The paths of what is in `folder`, as far as it can be read.
+std::vector<std::filesystem::path> entriesOf(const std::string& folder);
 
 // A new name reaches the disk with its folder.
 Failure syncFolder(const std::string& folder);
