@@ -60,11 +60,10 @@ void DesktopComposer::deliver() {
 
 void DesktopComposer::onDelivered(const Failure& failure) {
   if (!failure) return removeCopyAndLeave(MailComposeResult::sent);
-  const bool isKept = !output_->wasStopped() && !output_->noDraft();
-  edit("Not sent. " + *failure +
-       (isKept                                         ? "\nA copy is kept as " + draftPath() + "."
-        : output_->noDraft() && !output_->wasStopped() ? "\nNo copy is kept: " + *output_->noDraft()
-                                                       : ""));
+  if (output_->wasStopped()) return edit("Not sent. " + *failure);
+  const std::string copy = output_->noDraft() ? "No copy is kept: " + *output_->noDraft()
+                                              : "A copy is kept as " + draftPath() + ".";
+  edit("Not sent. " + *failure + "\n" + copy);
 }
 
 void DesktopComposer::handOver() {
