@@ -14,6 +14,7 @@
 namespace qv_commons {
 namespace {
 
+// The links come in their order in the text.
 void applyLinks(TextView& textView, const std::vector<TextLink>& links,
                 const QV_AgeGateColorTheme& theme, std::string_view caller) {
   const std::optional<std::size_t> length = textView.textLength();
