@@ -1,5 +1,6 @@
 #include "qv_commons/support/support_helper.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <set>
 #include <thread>
@@ -151,6 +152,89 @@ TEST_F(SupportHelper, AttachesAnEmptyReceiptAsAnEmptyFile) {
   contact(host);
   ASSERT_EQ(composer(0).message().attachments.size(), 1u);
   EXPECT_EQ(composer(0).message().attachments[0].data, "");
+}
+
+// A composer that has what is attached prepared later, as one does that is on the screen meanwhile.
+class LateComposer final : public NativeOf<MailComposer, MemoryController> {
+ public:
+  using NativeOf::NativeOf;
+
+  void setToRecipients(std::vector<std::string>) override {}
+  void setSubject(std::string) override {}
+  void setMailComposeDelegate(std::weak_ptr<MailComposeDelegate>) override {}
+  void setMessageBody(std::string, bool) override {}
+  void addAttachment(MailAttachment attachment) override {
+    attachments.push_back(std::move(attachment));
+  }
+  void prepare(const std::function<void()>& newWork,
+               const std::function<void()>& newDone) override {
+    EXPECT_FALSE(isOnScreen());
+    work = newWork;
+    done = newDone;
+  }
+
+  std::vector<MailAttachment> attachments;
+  std::function<void()> work;
+  std::function<void()> done;
+};
+
+class LateSupportHelper : public SupportHelper, private ViewControllers {
+ protected:
+  bool canSendMail() const override { return true; }
+  std::shared_ptr<MailComposer> makeMailComposer() override { return late; }
+  std::shared_ptr<AlertController> makeAlertController(std::string, std::string,
+                                                       AlertStyle) override {
+    return nullptr;
+  }
+  std::shared_ptr<LayoutScreen> initWithNibName(std::string_view, std::shared_ptr<Bundle>,
+                                                const LayoutScreenFactory&) override {
+    return nullptr;
+  }
+
+  bool hasRead() {
+    const Lines& lines = memory.record().lines();
+    return std::find(lines.begin(), lines.end(), "bundles.read receipt") != lines.end();
+  }
+
+  std::shared_ptr<LateComposer> late =
+      std::make_shared<LateComposer>(memory.record(), memory.transitions(), "late");
+  const Platform& rest = memory.platform();
+  const Platform platform = {rest.bundles,      rest.device,      rest.clock, rest.calendar,
+                             rest.userDefaults, rest.application, *this};
+  ScopedPlatform lateScope{platform};
+};
+
+TEST_F(LateSupportHelper, ReadsTheReceiptInTheWorkAndAttachesItWhenThatIsDone) {
+  memory.mainBundle().receiptLocation = "receipt";
+  memory.bundles().files["receipt"] = {"receipt\n", ""};
+  contact(host);
+  ASSERT_TRUE(late->work);
+  EXPECT_TRUE(late->isOnScreen());
+  EXPECT_FALSE(hasRead());
+  late->work();
+  EXPECT_TRUE(hasRead());
+  EXPECT_TRUE(late->attachments.empty());
+  late->done();
+  ASSERT_EQ(late->attachments.size(), 1u);
+  EXPECT_EQ(late->attachments[0].data, "cmVjZWlwdAo=");
+  EXPECT_EQ(late->attachments[0].fileName, "Receipt-Data.txt");
+}
+
+TEST_F(LateSupportHelper, PrintsOnlyWhenTheWorkIsDone) {
+  memory.mainBundle().receiptLocation = "receipt";
+  memory.bundles().files["receipt"] = {std::nullopt, "Is a directory"};
+  contact(host);
+  late->work();
+  EXPECT_TRUE(memory.application().printed.empty());
+  late->done();
+  EXPECT_EQ(memory.application().printed,
+            (Lines{"error converting receipt to Data: Is a directory"}));
+  EXPECT_TRUE(late->attachments.empty());
+}
+
+TEST_F(LateSupportHelper, PreparesNothingIfThereIsNoReceiptLocation) {
+  contact(host);
+  EXPECT_FALSE(late->work);
 }
 
 TEST_F(SupportHelper, CallsTheDelegateOnceWhateverTheOutcome) {
