@@ -19,9 +19,7 @@
 #include <sys/prctl.h>
 #include <sys/resource.h>
 
-#include "qv_commons/support/support_helper.h"
-
-#include "tests/desktop/desktop_driver.h"
+#include "tests/desktop/support_mail_fixture.h"
 #include "tests/support_code/sanitized.h"
 
 namespace qv_commons::desktop {
@@ -68,20 +66,11 @@ class Heartbeat {
   double longest_ = 0;
 };
 
-struct Host final : QV_SupportHelperDelegate {
-  int completions = 0;
-  void onCompletion() override { ++completions; }
-};
-
-class LargeMail : public testing::Test {
+class LargeMail : public SupportMailTest {
  protected:
   void SetUp() override {
     if (test::kIsSanitized) GTEST_SKIP() << "a sanitizer's memory is its own";
-    folder_.write("bundle/Info.plist", "<plist version=\"1.0\"><dict/></plist>");
     ::prctl(PR_SET_THP_DISABLE, 1, 0, 0, 0);  // one page is one page
-    window_.resize(375, 667);
-    window_.show();
-    window_.activateWindow();
     // What is loaded and made once is there afterwards.
     const std::string draft = folder_.write("data/drafts/small.eml", "Subject: Help\n\n");
     contactSupport();
@@ -102,8 +91,7 @@ class LargeMail : public testing::Test {
   ViewController& composer() { return *screen_->presentedViewController(); }
 
   void contactSupport(const std::string& metadata = "") {
-    helper_->contactSupport(*screen_, "support@example.com", "Help", {}, std::nullopt, metadata,
-                            host_);
+    request(metadata);
     ASSERT_TRUE(waitForLong([&] { return find<QLabel>(composer(), "attaching").isHidden(); }));
   }
 
@@ -127,17 +115,6 @@ class LargeMail : public testing::Test {
     return mainThreadPages() - std::exchange(pages_, mainThreadPages());
   }
 
-  TestFolder folder_;
-  QWidget window_;
-  DesktopPlatform desktop_{{.bundleDirectory = folder_.path("bundle"),
-                            .dataDirectory = folder_.path("data"),
-                            .mailWays = {MailWay::sendmail},
-                            .sendmailProgram = folder_.writeProgram("sendmail", "cat >/dev/null"),
-                            .senderAddress = "ada@example.com"}};
-  ScopedPlatform scope_{desktop_.platform()};
-  std::shared_ptr<ViewController> screen_ = desktop_.viewController(window_);
-  std::shared_ptr<QV_SupportHelper> helper_ = QV_SupportHelper::create();
-  std::shared_ptr<Host> host_ = std::make_shared<Host>();
   Heartbeat onTheWall_{CLOCK_MONOTONIC};
   Heartbeat ofTheThread_{CLOCK_THREAD_CPUTIME_ID};
   long base_ = 0;

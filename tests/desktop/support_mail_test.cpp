@@ -1,4 +1,4 @@
-// The support e-mail over real windows: what the library's core and this adapter make together.
+// The support e-mail as the user sees it.
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -7,10 +7,8 @@
 #include <sys/stat.h>
 
 #include "qv_commons/platform/desktop/sheet.h"
-#include "qv_commons/support/support_helper.h"
 
-#include "tests/desktop/active_window.h"
-#include "tests/desktop/desktop_driver.h"
+#include "tests/desktop/support_mail_fixture.h"
 
 namespace qv_commons::desktop {
 namespace {
@@ -19,25 +17,12 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-struct Host final : QV_SupportHelperDelegate {
-  int completions = 0;
-  void onCompletion() override { ++completions; }
-};
-
-class SupportMail : public testing::Test {
+class SupportMail : public SupportMailTest {
  protected:
-  SupportMail() {
-    folder_.write("bundle/Info.plist", "<plist version=\"1.0\"><dict/></plist>");
-    window_.resize(375, 667);
-    window_.show();
-    activate(window_);
-  }
-
   void useReceipt(const std::string& bytes) { folder_.write("bundle/StoreKit/receipt", bytes); }
 
   ViewController& contactSupport(const std::string& metadata = "") {
-    helper_->contactSupport(*screen_, "support@example.com", "Help", {}, std::nullopt, metadata,
-                            host_);
+    request(metadata);
     settle();
     ViewController& shown = *screen_->presentedViewController();
     const auto* attaching = windowOf(shown).findChild<QLabel*>("attaching");
@@ -62,18 +47,6 @@ class SupportMail : public testing::Test {
     EXPECT_EQ(names.size(), 1u);
     return names.empty() ? "" : readFile(folder_.path("data/drafts/" + names.front()));
   }
-
-  TestFolder folder_;
-  QWidget window_;
-  DesktopPlatform desktop_{{.bundleDirectory = folder_.path("bundle"),
-                            .dataDirectory = folder_.path("data"),
-                            .mailWays = {MailWay::sendmail},
-                            .sendmailProgram = folder_.writeProgram("sendmail", "cat >/dev/null"),
-                            .senderAddress = "ada@example.com"}};
-  ScopedPlatform scope_{desktop_.platform()};
-  std::shared_ptr<ViewController> screen_ = desktop_.viewController(window_);
-  std::shared_ptr<QV_SupportHelper> helper_ = QV_SupportHelper::create();
-  std::shared_ptr<Host> host_ = std::make_shared<Host>();
 };
 
 TEST_F(SupportMail, ShowsAnAlertWhereNoMailCanBeSent) {
