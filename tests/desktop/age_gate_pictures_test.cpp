@@ -23,9 +23,6 @@ TEST_P(AgeGatePictures, AreTheSame) {
   expectPicture("refusal");
 }
 
-constexpr auto kLight = UserInterfaceStyle::light;
-constexpr auto kDark = UserInterfaceStyle::dark;
-
 INSTANTIATE_TEST_SUITE_P(
     Screens, AgeGatePictures,
     testing::Values(Picture{"phone-light", {390, 844}, kLight, Qt::LeftToRight, "en-US"},

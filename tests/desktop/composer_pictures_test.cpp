@@ -26,9 +26,6 @@ TEST_P(ComposerPictures, AreTheSame) {
   expectPicture("alert");
 }
 
-constexpr auto kLight = UserInterfaceStyle::light;
-constexpr auto kDark = UserInterfaceStyle::dark;
-
 INSTANTIATE_TEST_SUITE_P(
     Screens, ComposerPictures,
     testing::Values(Picture{"phone-light", {390, 844}, kLight, Qt::LeftToRight, "en-GB"},

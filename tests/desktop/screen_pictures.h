@@ -18,6 +18,9 @@
 
 namespace qv_commons::desktop {
 
+inline constexpr auto kLight = UserInterfaceStyle::light;
+inline constexpr auto kDark = UserInterfaceStyle::dark;
+
 struct Picture {
   const char* name;
   QSize size;
