@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QLayout>
 #include <QScrollArea>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -44,7 +45,9 @@ class ScreenLoader final : public QUiLoader {
   // Qt would go on without the layout, and then use it.
   QLayout* createLayout(const QString& className, QObject* parent, const QString& name) override {
     if (!availableLayouts().contains(className)) failToLoad(path_, "unknown layout " + className);
-    return QUiLoader::createLayout(className, parent, name);
+    QLayout* layout = QUiLoader::createLayout(className, parent, name);
+    layout->setEnabled(false);  // until the texts have their fonts
+    return layout;
   }
 
  private:
@@ -137,6 +140,7 @@ std::unique_ptr<QWidget> loadLayout(const std::string& path, const IcuCalendar& 
     setFont(*widget, textScale);
     if (auto* text = qobject_cast<LinkTextView*>(widget)) setUpText(*text);
   }
+  for (QLayout* layout : root->findChildren<QLayout*>()) layout->setEnabled(true);
   return root;
 }
 
