@@ -230,6 +230,30 @@ TEST_F(WheelTest, ForgetsWhatWasTypedOnceAWheelIsTurned) {
   EXPECT_THAT(texts(), ElementsAre("March", "28", "2001"));
 }
 
+TEST(DateWheels, HaveTheOrderInWhichTheLocaleWritesDates) {
+  const auto order = [](const char* locale) {
+    return DateWheels(IcuCalendar({locale, "UTC"})).order();
+  };
+  constexpr DateField kDay = DateField::day;
+  constexpr DateField kMonth = DateField::month;
+  constexpr DateField kYear = DateField::year;
+  EXPECT_THAT(order("en-US"), ElementsAre(kMonth, kDay, kYear));
+  EXPECT_THAT(order("de-DE"), ElementsAre(kDay, kMonth, kYear));
+  EXPECT_THAT(order("ja-JP"), ElementsAre(kYear, kMonth, kDay));
+  EXPECT_THAT(order("hu-HU"), ElementsAre(kYear, kMonth, kDay));
+  // The long date of that calendar has the month first there.
+  EXPECT_THAT(order("en-AU-u-ca-japanese"), ElementsAre(kDay, kMonth, kYear));
+  EXPECT_THAT(order("th-TH-u-ca-buddhist"), ElementsAre(kDay, kMonth, kYear));
+}
+
+TEST(DateWheels, AreNamedInTheLocalesLanguage) {
+  const IcuCalendar calendar({"de-DE", "UTC"});
+  const DateWheels wheels(calendar);
+  EXPECT_EQ(wheels.name(DateField::day), "Tag");
+  EXPECT_EQ(wheels.name(DateField::month), "Monat");
+  EXPECT_EQ(wheels.name(DateField::year), "Jahr");
+}
+
 class BritishWheelTest : public WheelTest {
  protected:
   BritishWheelTest() : WheelTest("en-GB") {}

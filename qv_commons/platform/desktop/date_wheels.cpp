@@ -46,6 +46,27 @@ std::unique_ptr<icu::SimpleDateFormat> makeFormat(const IcuCalendar& calendar,
   return format;
 }
 
+std::unique_ptr<icu::DateTimePatternGenerator> makeGenerator(const IcuCalendar& calendar) {
+  UErrorCode status = U_ZERO_ERROR;
+  std::unique_ptr<icu::DateTimePatternGenerator> generator(
+      icu::DateTimePatternGenerator::createInstance(calendar.locale(), status));
+  if (U_FAILURE(status)) fatalError("DateWheels: ICU has no date patterns; is its data installed?");
+  return generator;
+}
+
+icu::UnicodeString bestPattern(const IcuCalendar& calendar, const icu::UnicodeString& fields) {
+  UErrorCode status = U_ZERO_ERROR;
+  return makeGenerator(calendar)->getBestPattern(fields, status);
+}
+
+icu::UnicodeString patternOfLongDate(const IcuCalendar& calendar) {
+  const std::unique_ptr<icu::DateFormat> format(
+      icu::DateFormat::createDateInstance(icu::DateFormat::kLong, calendar.locale()));
+  const auto* longDate = dynamic_cast<const icu::SimpleDateFormat*>(format.get());
+  icu::UnicodeString pattern;
+  return longDate == nullptr ? bestPattern(calendar, "yMMMMd") : longDate->toPattern(pattern);
+}
+
 }  // namespace
 
 DateWheels::DateWheels(const IcuCalendar& calendar) : calendar_(calendar) {
@@ -54,21 +75,21 @@ DateWheels::DateWheels(const IcuCalendar& calendar) : calendar_(calendar) {
 }
 
 void DateWheels::makeFormats() {
-  UErrorCode status = U_ZERO_ERROR;
-  const std::unique_ptr<icu::DateTimePatternGenerator> generator(
-      icu::DateTimePatternGenerator::createInstance(calendar_.locale(), status));
-  if (U_FAILURE(status)) fatalError("DateWheels: ICU has no date patterns; is its data installed?");
-  order_ = orderOf(generator->getBestPattern("yMMMMd", status));
-  constexpr UDateTimePGDisplayWidth kWide = UDATPG_WIDE;
-  names_ = {toQString(generator->getFieldDisplayName(UDATPG_YEAR_FIELD, kWide)),
-            toQString(generator->getFieldDisplayName(UDATPG_MONTH_FIELD, kWide)),
-            toQString(generator->getFieldDisplayName(UDATPG_DAY_FIELD, kWide))};
+  const std::string_view calendar = calendar_.makeCalendar()->getType();
+  // The locale's long date says the order of a Gregorian calendar's fields ten times sooner.
+  order_ = orderOf(calendar == "gregorian" ? patternOfLongDate(calendar_)
+                                           : bestPattern(calendar_, "yMMMMd"));
   // Only there do the years start again within a lifetime.
-  const bool hasShortEras = std::string_view(calendar_.makeCalendar()->getType()) == "japanese";
-  yearFormat_ = makeFormat(calendar_, hasShortEras ? generator->getBestPattern("Gy", status) : "y");
+  yearFormat_ = makeFormat(calendar_, calendar == "japanese" ? bestPattern(calendar_, "Gy") : "y");
   dayFormat_ = makeFormat(calendar_, "d");
   monthFormats_ = {makeFormat(calendar_, "LLLL"), makeFormat(calendar_, "LLL"),
                    makeFormat(calendar_, "L")};
+}
+
+QString DateWheels::name(DateField field) const {
+  constexpr std::array kFields{UDATPG_YEAR_FIELD, UDATPG_MONTH_FIELD, UDATPG_DAY_FIELD};
+  return toQString(makeGenerator(calendar_)->getFieldDisplayName(
+      kFields.at(static_cast<std::size_t>(field)), UDATPG_WIDE));
 }
 
 void DateWheels::setDate(Instant date) {

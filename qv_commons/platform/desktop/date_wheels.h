@@ -58,8 +58,9 @@ class DateWheels {
   // What is typed to get there: the day of the month, the month's place in the year, or the year.
   int number(DateField field, int row) const;
 
-  // What the wheel is called in the locale's language, for example "month".
-  QString name(DateField field) const { return names_[static_cast<std::size_t>(field)]; }
+  // What the wheel is called in the locale's language, for example "month". Takes as long as
+  // making the wheels.
+  QString name(DateField field) const;
 
  private:
   struct Month {
@@ -86,7 +87,6 @@ class DateWheels {
 
   const IcuCalendar& calendar_;
   std::array<DateField, 3> order_{};
-  std::array<QString, 3> names_;
   std::unique_ptr<icu::SimpleDateFormat> yearFormat_;
   std::unique_ptr<icu::SimpleDateFormat> dayFormat_;
   std::array<std::unique_ptr<icu::SimpleDateFormat>, 3> monthFormats_;  // by MonthForm

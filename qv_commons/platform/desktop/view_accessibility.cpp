@@ -158,6 +158,7 @@ class AccessibleWheel final : public QAccessibleWidget,
   }
 
   QString text(QAccessible::Text kind) const override {
+    if (kind == QAccessible::Name) return wheel_.name();
     return kind == QAccessible::Value ? all() : QAccessibleWidget::text(kind);
   }
   using ReadText::text;

@@ -30,7 +30,6 @@ constexpr double kOpacityLostByRow = 0.28;
 Wheel::Wheel(const DateWheels& date, DateField field, QWidget* parent)
     : QWidget(parent), date_(date), field_(field) {
   setFocusPolicy(Qt::StrongFocus);
-  setAccessibleName(date_.name(field));
 }
 
 void Wheel::setMonthForm(MonthForm form) {

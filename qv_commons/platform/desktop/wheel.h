@@ -21,7 +21,8 @@ class Wheel final : public QWidget {
   DateField field() const { return field_; }
   QString chosenText() const { return date_.text(field_, date_.row(field_)); }
 
-  // The chosen number and the ends, for screen readers.
+  // The wheel's name, the chosen number and the ends, for screen readers.
+  QString name() const { return date_.name(field_); }
   int number() const { return date_.number(field_, date_.row(field_)); }
   int lowestNumber() const { return date_.number(field_, 0); }
   int highestNumber() const { return date_.number(field_, date_.rows(field_) - 1); }
