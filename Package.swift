@@ -20,7 +20,8 @@ var targets: [Target] = [
             "qv_commons/platform/platform.cpp", "qv_commons/platform/presentation.cpp",
         ],
         publicHeadersPath: "swift/core/include",
-        cxxSettings: [.define("QV_COMMONS_MAKER_HOST", to: "\"\(makerHost)\"")]),
+        cxxSettings: [.define("QV_COMMONS_MAKER_HOST", to: "\"\(makerHost)\"")],
+        linkerSettings: [.linkedLibrary("m", .when(platforms: [.linux]))]),
     .target(
         name: "QVCommonsMemory",
         dependencies: ["QVCommonsCore"],

@@ -1,0 +1,48 @@
+#!/usr/bin/env bash
+# Swift's own package manager over Package.swift: it builds and tests the logic and the memory adapter;
+# the program that README.md begins with is made in a package that takes them in; and of what a Mac builds
+# besides, it finds every source and resource.
+#
+#     tests/swift/package_check.sh TOOLCHAIN OUT       OUT is kept, so that a second run builds what has changed
+set -euo pipefail
+toolchain=$1 out=$2
+in_root() { "$toolchain/in_root" "$@"; }
+if ! in_root swiftc --version >/dev/null 2>&1; then
+  echo "swift: the package is left out, this user can't mount folders here"
+  exit
+fi
+fail() { echo "swift: $*"; exit 1; }
+
+# Two archives of Swift's are not in Debian's package; they are made of its sources.
+libraries=$toolchain/tree/usr/libexec/swift/lib/swift/linux
+make_archive() {
+  [ ! -e "$libraries/libswift$1.a" ] || return 0
+  in_root swiftc -c -wmo -O -parse-as-library -suppress-warnings -cxx-interoperability-mode=default \
+    -module-name "$1" -o "$out/$1.o" "${@:2}"
+  in_root llvm-ar crs "$out/$1.a" "$out/$1.o"
+  mv "$out/$1.a" "$libraries/libswift$1.a"
+}
+mkdir -p "$out"
+overlay=$(find "$toolchain/source" -path '*/stdlib/public/Cxx')
+make_archive Cxx "$overlay"/*.swift
+make_archive CxxStdlib "$overlay"/std/*.swift
+
+# copied_to FOLDER: the files of a checkout, beside what an earlier run built of them.
+copied_to() {
+  mkdir -p "$1"
+  find "$1" -mindepth 1 -maxdepth 1 ! -name .build -exec rm -rf {} +
+  tar -x -C "$1"
+}
+package=$out/QV_Commons host=$out/cxx_host
+tar -c --exclude=./build --exclude=./out --exclude=./.git --exclude=./.build . | copied_to "$package"
+in_root swift-build --package-path "$package" >"$out/build.log" 2>&1 || { cat "$out/build.log"; fail "swift build fails"; }
+in_root swift-test --package-path "$package" >"$out/test.log" 2>&1 || { cat "$out/test.log"; fail "swift test fails"; }
+tests=$(cat swift/tests/*.swift | grep -c 'func test')
+grep -q "Executed $tests tests, with 0 failures" "$out/test.log" || { cat "$out/test.log"; fail "not $tests tests"; }
+
+tar -c -C tests/swift/cxx_host . | copied_to "$host"
+mkdir -p "$host/Sources/cxx_host"
+cp -p examples/quickstart/main.cpp "$host/Sources/cxx_host"
+in_root swift-build --package-path "$host" >"$out/host.log" 2>&1 || { cat "$out/host.log"; fail "a package of C++ is not built"; }
+"$toolchain/in_root" "$host/.build/debug/cxx_host" | grep -q pro_monthly || fail "the package of C++ does not work"
+echo "swift: swift build and swift test pass ($tests tests), and a package of C++ that takes the library in works"
