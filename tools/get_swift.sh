@@ -36,7 +36,7 @@ cd "$to/packages"
 private_apt source --download-only swiftlang 2>/dev/null || ls swiftlang_*.orig.tar.* >/dev/null
 for archive in swiftlang_*.orig*.tar.*; do
   tar -x -C "$to/source" -f "$archive" --wildcards '*/stdlib/public/core/*' '*/stdlib/public/Concurrency/*' \
-    '*/stdlib/public/Cxx/*' '*/swift/utils/*.py' '*/utils/availability-macros.def' 2>/dev/null || true
+    '*/stdlib/public/Cxx/*' '*/test/abi/Inputs/macOS/arm64/*/baseline' '*/swift/utils/*.py' '*/utils/availability-macros.def' 2>/dev/null || true
 done
 find "$to/source" -name gyb.py | grep -q .
 rm -r "$to/packages" "$to/cache" "$to/lists"

@@ -1,13 +1,14 @@
 #!/usr/bin/env bash
 # Swift's own compiler over the public headers: the interface that Swift sees is the one expected,
-# the example and every accepted case compile in Swift 5 and 6, every refused case is turned down for
-# its reason; the app that docs/ios.md begins with compiles. For Linux, where the interface of the platform is the mock in tests/swift, and, to
-# Mach-O, for arm64-apple-ios11.0.
+# the example, the apps of README.md and docs/ios.md and every accepted case compile in Swift 5 and 6, every
+# refused case is turned down for its reason. For Linux, where the interface of the platform is the
+# mock in tests/swift, and, to Mach-O, for arm64-apple-ios11.0, for which the example and the apps are
+# linked with the library, too. Then its package manager over Package.swift (tests/swift/package_check.sh).
 #
 #     tools/swift_check.sh [OUT]        by default build/swift/out
 #
-# The compiler is Debian 13's, fetched once into build/swift/toolchain (690 MB). Elsewhere than on
-# Debian on x86-64 nothing is checked, and a line says so.
+# The compiler is Debian 13's, fetched once into build/swift/toolchain (770 MB). Elsewhere than on
+# Debian on x86-64 nothing is checked, and a line says so; nothing is linked where ./test.sh has not built.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 out=${1:-build/swift/out}
@@ -48,7 +49,11 @@ check() {
   for version in 5 6; do
     swift "$target" -c -module-name Host -swift-version $version examples/ios_host/TimesViewController.swift \
       -o "$out/$target/host$version.o" || fail "$target: the example is refused in Swift $version"
-    for source in $tests/accepted/*.swift "$out/docs.swift"; do
+    for source in "$out"/apps/*.swift; do
+      swift "$target" -c -module-name App -swift-version $version "$source" \
+        -o "$out/$target/$(basename "$source" .swift)$version.o" || fail "$target: $source is refused in Swift $version"
+    done
+    for source in $tests/accepted/*.swift; do
       swift "$target" -emit-sil -module-name Case -swift-version $version "$source" -o "$out/case.sil" ||
         fail "$target: $source is refused in Swift $version"
     done
@@ -62,9 +67,13 @@ check() {
   done
 }
 
-# The app of docs/ios.md, as it stands there.
-awk '/^```swift/ { inside = 1; next } /^```/ { inside = 0 } inside' docs/ios.md >"$out/docs.swift"
-grep -q startAgeGateProcess "$out/docs.swift" || fail "docs/ios.md has no app"
+# The apps of the pages, as they stand there.
+mkdir "$out/apps"
+for page in README docs/ios; do
+  app=$out/apps/$(basename $page).swift
+  awk '/^```swift/ { inside = 1; next } /^```/ { inside = 0 } inside' $page.md >"$app"
+  grep -q startAgeGateProcess "$app" || fail "$page.md has no app"
+done
 
 check linux
 echo >"$out/empty.swift"
@@ -91,6 +100,14 @@ if [ ! -d "$toolchain/ios" ]; then
   mv "$toolchain/ios.new" "$toolchain/ios"
 fi
 check ios
+objc_headers=build/dev/objc_compat
+if [ -d $objc_headers ] && [ -d build/unpacked ]; then
+  tools/ios_check.py build/ios $objc_headers
+  $tests/link_check.py "$toolchain" build/ios "$out"/ios/{host,README,ios}{5,6}.o || fail "an app does not link"
+else
+  echo "swift: nothing is linked, as ./test.sh has not built"
+fi
+$tests/package_check.sh "$toolchain" build/swift/package || fail "the package"
 
 echo "swift: $(ls $tests/accepted | wc -l) cases accepted and $(ls $tests/refused | wc -l) refused, in Swift 5 and 6, for Linux and iOS: $failures failed"
 [ $failures -eq 0 ]

@@ -36,7 +36,7 @@ module() {
     -Xcc -ffreestanding -disable-objc-attr-requires-foundation-module -library-level api \
     -require-explicit-availability=ignore "${availability[@]}" "${features[@]}" -suppress-warnings \
     -disable-implicit-concurrency-module-import -disable-implicit-string-processing-module-import \
-    -enable-lexical-lifetimes=false -o "$out/iphoneos/$name.swiftmodule/arm64-apple-ios.swiftmodule" "$@"
+    -enable-lexical-lifetimes=false -disable-legacy-type-info -o "$out/iphoneos/$name.swiftmodule/arm64-apple-ios.swiftmodule" "$@"
 }
 
 # The lists of sources are those of the library's own build.
@@ -46,13 +46,13 @@ while read -r file; do
   if [ -f "$core/$file" ]; then sources+=("$core/$file"); else sources+=("$out/generated/$file"); fi
 done < <(sed -n '1,/^set(swift_stdlib_compile_flags/p' "$core/CMakeLists.txt" |
   grep -oE '^ +(EMBEDDED|NORMAL) +[A-Za-z0-9_]+\.swift(\.gyb)?' | awk '{ print $2 }')
-module Swift -experimental-skip-all-function-bodies -enable-experimental-concise-pound-file "${sources[@]}" \
+module Swift -experimental-skip-non-inlinable-function-bodies -enable-experimental-concise-pound-file "${sources[@]}" \
   "$core/SIMDVector.swift" "$out/generated/SIMDConcreteOperations.swift" "$out/generated/SIMDVectorTypes.swift"
 sources=()
 while read -r file; do
   sources+=("$concurrency/$file")
 done < <(sed -n '/^set(SWIFT_RUNTIME_CONCURRENCY_SWIFT_SOURCES/,/^)/p' "$concurrency/CMakeLists.txt" |
   grep -oE '[A-Za-z0-9_+/]+\.swift')
-module _Concurrency -experimental-skip-all-function-bodies -I "$concurrency/InternalShims" "${sources[@]}"
+module _Concurrency -experimental-skip-non-inlinable-function-bodies -I "$concurrency/InternalShims" "${sources[@]}"
 echo >"$out/generated/empty.swift"
 module SwiftOnoneSupport -O "$out/generated/empty.swift"

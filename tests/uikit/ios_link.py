@@ -19,7 +19,7 @@ objc_moveWeak objc_msgSend objc_msgSendSuper2 objc_opt_class objc_opt_isKindOfCl
 objc_release objc_retain objc_retainAutorelease objc_retainAutoreleaseReturnValue
 objc_retainAutoreleasedReturnValue objc_retainBlock objc_setAssociatedObject objc_setProperty_atomic
 objc_setProperty_nonatomic objc_setProperty_nonatomic_copy objc_storeStrong objc_storeWeak
-_objc_empty_cache __objc_personality_v0 _Block_object_assign _Block_object_dispose
+_objc_empty_cache __objc_personality_v0 _Block_copy _Block_release _Block_object_assign _Block_object_dispose
 _NSConcreteGlobalBlock _NSConcreteStackBlock __CFConstantStringClassReference __NSDictionary0__
 NSClassFromString NSStringFromClass NSStringFromSelector
 """.split()
@@ -29,6 +29,11 @@ bzero fflush fprintf fputc fwrite memchr memcmp memcpy memmove memset snprintf s
 """.split()
 # By the names that the headers in the SDK's place give them; none of the device's.
 IN_PLACE_OF_THE_SDK = ['stderr', 'stdout', '_NSRangeExceptionRaise']
+
+# What no symbol of the public classes' own refers to.
+WITHOUT_REFERENCE = {'_OBJC_CLASS_$_QV_Installation', '_OBJC_CLASS_$_QV_AgeGateViewController',
+                     '_OBJC_CLASS_$_QV_AgeGateRefusedViewController',
+                     '-[UISearchBar(QV_SearchBar) qv_searchTextField_all_iOS_versions]'}
 
 
 def platform_names():
