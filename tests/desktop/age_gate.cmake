@@ -20,6 +20,8 @@ qv_add_screen_test(age_gate_test
           age_gate_pictures_test.cpp
           age_gate_screen_test.cpp
           composer_pictures_test.cpp
+          language_fit_test.cpp
+          languages_test.cpp
           many_screens_test.cpp
           painting_test.cpp
           resource_search_test.cpp)

@@ -70,6 +70,7 @@ DesktopSettings AgeGateTest::settings() const {
   DesktopSettings settings;
   settings.bundleDirectory = temporary_.filePath("bundle").toStdString();
   settings.dataDirectory = temporary_.filePath("data").toStdString();
+  settings.languages = {"en"};
   settings.calendar = {"en-US", "Europe/Paris"};
   settings.userInterfaceStyle = UserInterfaceStyle::light;
   return settings;

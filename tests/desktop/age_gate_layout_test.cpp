@@ -18,6 +18,7 @@
 #include "qv_commons/platform/desktop/layout_file.h"
 
 #include "tests/desktop/age_gate_fixture.h"
+#include "tests/desktop/in_sight.h"
 
 namespace qv_commons::desktop {
 namespace {
@@ -75,37 +76,6 @@ class AgeGateShapeTest : public AgeGateLayoutTest, public testing::WithParamInte
     QApplication::setLayoutDirection(std::get<2>(GetParam()));
   }
   ~AgeGateShapeTest() override { QApplication::setLayoutDirection(Qt::LeftToRight); }
-
-  static std::vector<QWidget*> viewsOf(QWidget& screen) {
-    std::vector<QWidget*> views;
-    for (const char* name : {"header", "subtitle", "datePicker", "confirmBtn", "contact", "tos"}) {
-      if (auto* found = screen.findChild<QWidget*>(name)) views.push_back(found);
-    }
-    return views;
-  }
-
-  // Everything within its room, whole and apart; what is too high can be scrolled to.
-  static void expectAllInSight(QWidget& screen) {
-    auto& scroll = view<QScrollArea>(screen, "scroll");
-    const QRect room = scroll.widget()->rect();
-    EXPECT_EQ(scroll.horizontalScrollBar()->maximum(), 0);
-    EXPECT_EQ(scroll.verticalScrollBar()->maximum(),
-              std::max(0, room.height() - scroll.viewport()->height()));
-    int bottom = 0;
-    for (QWidget* view : viewsOf(screen)) {
-      const QRect place = view->geometry();
-      EXPECT_TRUE(room.contains(place)) << view->objectName().toStdString();
-      EXPECT_GE(place.top(), bottom) << view->objectName().toStdString();
-      if (view->hasHeightForWidth()) {
-        EXPECT_GE(place.height(), view->heightForWidth(place.width()))
-            << view->objectName().toStdString();
-      } else {
-        EXPECT_GE(place.height(), view->sizeHint().height()) << view->objectName().toStdString();
-        EXPECT_GE(place.width(), view->sizeHint().width()) << view->objectName().toStdString();
-      }
-      bottom = place.bottom();
-    }
-  }
 
   // No word is wider than its line.
   static void expectWordsFit(QWidget& screen) {

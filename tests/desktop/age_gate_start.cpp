@@ -69,6 +69,7 @@ int main(int count, char** arguments) {
   window.show();
   qv_commons::desktop::DesktopSettings settings;
   settings.dataDirectory = arguments[1];
+  settings.languages = {"en"};
   settings.calendar = {"en-US", "UTC"};
   settings.userInterfaceStyle = qv_commons::UserInterfaceStyle::light;
   settings.onError = [](const std::string& error) { std::fprintf(stderr, "%s\n", error.c_str()); };

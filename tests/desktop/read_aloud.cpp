@@ -27,6 +27,7 @@ int main(int count, char** arguments) {
   qv_commons::desktop::DesktopSettings settings;
   settings.dataDirectory = arguments[1];
   settings.sendmailProgram = "/bin/false";
+  settings.languages = {"en"};
   settings.calendar = {"en-GB", "UTC"};
   settings.userInterfaceStyle = qv_commons::UserInterfaceStyle::light;
   qv_commons::desktop::DesktopPlatform desktop(settings);

@@ -120,7 +120,7 @@ class BadTables(unittest.TestCase):
         changed["texts"]["gateSubtitle"]["text"] = changed["texts"]["privacy"]["text"] = ""
         self.assertEqual(list(make_languages.problems(changed, table("en"))), [])
         texts = make_languages.texts_of(changed, GATE)
-        self.assertEqual(texts["header.text"], "Wie lautet Ihr Geburtsdatum?")
+        self.assertEqual(texts["header.text"], "Wann sind Sie geboren?")
         self.assertEqual(texts["subtitle.text"], "Only used to check your age, never kept.")
         self.assertEqual(texts["policies.text"], "Privacy Policy & Nutzungsregeln\u2060\u2060")
 

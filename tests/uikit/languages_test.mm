@@ -29,7 +29,7 @@ class UIKitLanguages : public AgeGateTest {
 
 TEST_F(UIKitLanguages, AskInTheUsersLanguage) {
   QV_AgeGateViewController* screen = gateIn(@[ @"de-DE", @"en" ]);
-  EXPECT_OBJECT(screen.header.text, @"Wie lautet Ihr Geburtsdatum?");
+  EXPECT_OBJECT(screen.header.text, @"Wann sind Sie geboren?");
   EXPECT_OBJECT(screen.subtitle.text, @"Dient nur der Altersprüfung und wird nicht gespeichert.");
   EXPECT_OBJECT(screen.datePicker.accessibilityLabel, @"Geburtsdatum");
   EXPECT_OBJECT([screen.confirmBtn titleForState:UIControlStateNormal], @"Bestätigen");
@@ -57,7 +57,7 @@ TEST_F(UIKitLanguages, StayInEnglishForAUserOfEnglish) {
 }
 
 TEST_F(UIKitLanguages, TakeTheFirstLanguageThatTheySpeak) {
-  EXPECT_OBJECT(headerIn(@[ @"sv-SE", @"pt-PT", @"de" ]), @"Qual é a sua data de nascimento?");
+  EXPECT_OBJECT(headerIn(@[ @"sv-SE", @"pt-PT", @"de" ]), @"Quando você nasceu?");
 }
 
 TEST_F(UIKitLanguages, AreInEnglishWithoutALanguageThatTheySpeak) {

@@ -1,7 +1,8 @@
 """Measures and wraps text as labels do, with a real font in the place of the system's own.
 
 Inter is drawn for the same purpose as the system font and runs slightly wider, so that what fits in
-Inter fits on the device.
+Inter fits on the device. What it has no letters for is measured in a font of the script; the letters of
+Chinese, Japanese and Korean are as wide as they are high.
 """
 
 import functools
@@ -10,6 +11,9 @@ import math
 from PIL import ImageFont
 
 FONTS = '/usr/share/fonts/opentype/inter/'
+DEJAVU = '/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf'
+LOHIT = '/usr/share/fonts/truetype/lohit-devanagari/Lohit-Devanagari.ttf'
+OTHER_SCRIPTS = (('\u0590', '\u06ff', DEJAVU), ('\u0900', '\u097f', LOHIT))  # Hebrew and Arabic; Hindi
 
 # Points by text style at the content sizes of the platform's Dynamic Type table.
 SIZES = ('XS', 'S', 'M', 'L', 'XL', 'XXL', 'XXXL', 'AX1', 'AX2', 'AX3', 'AX4', 'AX5')
@@ -29,7 +33,7 @@ _MEASURED_AT = 200  # pixels to the em, so that rounding in the font engine does
 
 @functools.lru_cache(maxsize=None)
 def font(face, pixels):
-    return ImageFont.truetype(f'{FONTS}{face}.otf', pixels)
+    return ImageFont.truetype(face if face.startswith('/') else f'{FONTS}{face}.otf', pixels)
 
 
 class Font:
@@ -44,7 +48,9 @@ class Font:
         return sum(font(self.face, _MEASURED_AT).getmetrics()) * self.points / _MEASURED_AT
 
     def width(self, text):
-        return font(self.face, _MEASURED_AT).getlength(text) * self.points / _MEASURED_AT
+        face = next((file for first, last, file in OTHER_SCRIPTS
+                     if any(first <= letter <= last for letter in text)), self.face)
+        return font(face, _MEASURED_AT).getlength(text) * self.points / _MEASURED_AT
 
     def lines(self, text, width):
         """Wraps at blanks, and a word that is wider than `width` between any two characters."""

@@ -25,15 +25,14 @@ struct DesktopPlatform::Parts {
 
   SharedContext context;
   DesktopBundles bundles{*context};
-  DesktopDevice device{context->look, context->settings.systemVersion,
-                       context->settings.userInterfaceStyle};
+  DesktopDevice device{context->look, context->settings};
   DesktopClock clock;
   IcuCalendar calendar{context->settings.calendar, context->settings.onError};
   SqliteUserDefaults userDefaults{context->dataDirectory(),
                                   bundles.mainBundle().bundleIdentifier().value_or(""),
                                   context->settings.onError};
   DesktopApplication application;
-  DesktopViewControllers viewControllers{context, {calendar, application}};
+  DesktopViewControllers viewControllers{context, {calendar, application, device}};
   Platform platform{.bundles = bundles,
                     .device = device,
                     .clock = clock,

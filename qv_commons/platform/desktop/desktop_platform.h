@@ -54,6 +54,11 @@ struct DesktopSettings {
   // linked into, or share/qv_commons of the same prefix; last, the layouts inside the library.
   std::string resourceDirectory = {};
 
+  // The user's languages, the preferred one first, for example {"pt-BR", "en"}; the screens speak
+  // the first of them that they can, or else English. Empty: the system's, see
+  // Device::preferredLanguages. The words for dates follow `calendar`.
+  std::vector<std::string> languages = {};
+
   // Where what lasts is kept, the drafts in its folder "drafts", the user defaults in a file named
   // after the host's bundle identifier. Empty: the folder that the system
   // has for this app's data, for example ~/.local/share/notes.

@@ -42,6 +42,7 @@ std::string DesktopDevice::localizedModel() const {
 }
 
 std::vector<std::string> DesktopDevice::preferredLanguages() const {
+  if (!settings_.languages.empty()) return settings_.languages;
   std::vector<std::string> languages;
   for (const QString& language : QLocale::system().uiLanguages()) {
     if (language != "C") languages.push_back(toUtf8(language));
@@ -58,7 +59,7 @@ Size DesktopDevice::screenBounds() const {
 }
 
 UserInterfaceStyle DesktopDevice::userInterfaceStyle() const {
-  return look_.style(style_);
+  return look_.style(settings_.userInterfaceStyle);
 }
 
 Instant DesktopClock::now() const {

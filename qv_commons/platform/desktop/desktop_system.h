@@ -5,6 +5,7 @@
 #include "qv_commons/platform/application.h"
 #include "qv_commons/platform/clock.h"
 #include "qv_commons/platform/desktop/desktop_look.h"
+#include "qv_commons/platform/desktop/desktop_platform.h"
 #include "qv_commons/platform/device.h"
 
 namespace qv_commons::desktop {
@@ -16,9 +17,9 @@ double pointsOf(int rounded, double scale);
 
 class DesktopDevice final : public Device {
  public:
-  // The major version that the library takes the system for, and the look that was set.
-  DesktopDevice(const DesktopLook& look, int majorVersion, UserInterfaceStyle style)
-      : look_(look), majorVersion_(majorVersion), style_(style) {}
+  // Both outlive it.
+  DesktopDevice(const DesktopLook& look, const DesktopSettings& settings)
+      : look_(look), settings_(settings) {}
 
   // The distribution and the kind of machine, for example "Debian PC".
   std::string localizedModel() const override;
@@ -26,9 +27,10 @@ class DesktopDevice final : public Device {
   // The distribution's version, for example "12"; the kernel's if it has none.
   std::string systemVersion() const override;
 
-  bool isSystemVersionAtLeast(int major) const override { return majorVersion_ >= major; }
+  bool isSystemVersionAtLeast(int major) const override { return settings_.systemVersion >= major; }
 
-  // From LANGUAGE, else LC_ALL, LC_MESSAGES or LANG; empty if they name no language.
+  // The host's setting; else from LANGUAGE, LC_ALL, LC_MESSAGES or LANG; empty if they name no
+  // language.
   std::vector<std::string> preferredLanguages() const override;
 
   // Of the primary monitor.
@@ -37,8 +39,7 @@ class DesktopDevice final : public Device {
 
  private:
   const DesktopLook& look_;
-  int majorVersion_;
-  UserInterfaceStyle style_;
+  const DesktopSettings& settings_;
 };
 
 class DesktopClock final : public Clock {

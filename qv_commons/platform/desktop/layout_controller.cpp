@@ -28,7 +28,7 @@ std::shared_ptr<QWidget> makeContent() {
 QString textOf(const QWidget& root) {
   QStringList texts;
   for (const QLabel* label : root.findChildren<QLabel*>()) texts.append(label->accessibleName());
-  for (const auto* text : root.findChildren<LinkTextView*>()) texts.append(text->toPlainText());
+  for (const auto* text : root.findChildren<LinkTextView*>()) texts.append(text->seenText());
   return texts.join(" ");
 }
 
@@ -55,7 +55,10 @@ void LayoutController::show(bool animated) {
 
 void LayoutController::load() {
   isLoaded_ = true;
-  std::unique_ptr<QWidget> root = loadLayout(path_, services_.calendar, textScale());
+  const ScreenWords words =
+      findWords(path_, services_.device.preferredLanguages(),
+                [this](const std::string& problem) { context().reportError(problem); });
+  std::unique_ptr<QWidget> root = loadLayout(path_, words, services_.calendar, textScale());
   const LinkOpener open = [&application = services_.application](std::string_view link) {
     if (const auto url = URL::parse(std::string(link))) application.openURL(*url);
   };

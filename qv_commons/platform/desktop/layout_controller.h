@@ -8,6 +8,7 @@
 #include "qv_commons/platform/application.h"
 #include "qv_commons/platform/desktop/icu_calendar.h"
 #include "qv_commons/platform/desktop/sheet_controller.h"
+#include "qv_commons/platform/device.h"
 #include "qv_commons/platform/layout_screen.h"
 
 namespace qv_commons::desktop {
@@ -16,6 +17,7 @@ namespace qv_commons::desktop {
 struct ScreenServices {
   const IcuCalendar& calendar;
   Application& application;  // opens links
+  const Device& device;      // knows the user's languages
 };
 
 class LayoutController final : public NativeOf<ViewController, SheetController> {

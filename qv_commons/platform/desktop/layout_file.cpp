@@ -128,13 +128,14 @@ void connectAction(QWidget& widget, const Completion& run, const Later& later) {
 
 }  // namespace
 
-std::unique_ptr<QWidget> loadLayout(const std::string& path, const IcuCalendar& calendar,
-                                    double textScale) {
+std::unique_ptr<QWidget> loadLayout(const std::string& path, const ScreenWords& words,
+                                    const IcuCalendar& calendar, double textScale) {
   QFile file(QFile::decodeName(path.c_str()));
   if (!file.open(QIODevice::ReadOnly)) failToLoad(path, file.errorString());
   const std::unique_ptr<ScreenLoader> loader = makeLoader(path, calendar);
   std::unique_ptr<QWidget> root(loader->load(&file));
   if (!root) failToLoad(path, loader->errorString());
+  applyWords(*root, words);
   for (QScrollArea* area : root->findChildren<QScrollArea*>()) setUpScrolling(*area);
   for (QWidget* widget : root->findChildren<QWidget*>()) {
     setFont(*widget, textScale);

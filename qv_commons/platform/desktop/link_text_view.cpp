@@ -2,10 +2,12 @@
 
 #include <QEvent>
 #include <QFocusEvent>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTextBlock>
 #include <QTextDocument>
+#include <QTextDocumentFragment>
 #include <QTimer>
 #include <cmath>
 #include <memory>
@@ -59,12 +61,23 @@ void LinkTextView::readLinks() {
           !links_.empty() && links_.back().end == start && links_.back().target == target;
       if (!goesOn) links_.push_back({start, start, target, {}});
       links_.back().end += text.length();
-      links_.back().words += text.text();
+      links_.back().words += text.text().remove(kFiller);
     }
   }
   if (focused_ >= static_cast<int>(links_.size())) focused_ = kNone;
   setFocusPolicy(links_.empty() ? Qt::ClickFocus : Qt::StrongFocus);
   forgetLinks(*this);
+}
+
+QString LinkTextView::seenText() const {
+  return toPlainText().remove(kFiller);
+}
+
+// Plain: the targets of the links mean nothing elsewhere.
+QMimeData* LinkTextView::createMimeDataFromSelection() const {
+  auto copied = std::make_unique<QMimeData>();
+  copied->setText(textCursor().selection().toPlainText().remove(kFiller));
+  return copied.release();
 }
 
 std::vector<QRect> LinkTextView::linesOf(const Link& link) const {

@@ -20,11 +20,17 @@ class LinkTextView final : public QTextBrowser {
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
 
+  // What fills a link's words up to the link's range: without width, and no line ends at it.
+  static constexpr QChar kFiller = QChar(0x2060);
+
+  // The text without fillers, as it is seen, heard and copied.
+  QString seenText() const;
+
   struct Link {
     int start;
     int end;
     QString target;
-    QString words;
+    QString words;  // without fillers
   };
   const std::vector<Link>& links() const { return links_; }
 
@@ -47,6 +53,7 @@ class LinkTextView final : public QTextBrowser {
   void focusOutEvent(QFocusEvent* event) override;
   bool focusNextPrevChild(bool isNext) override;
   void changeEvent(QEvent* event) override;
+  QMimeData* createMimeDataFromSelection() const override;
 
  private:
   void readLinks();

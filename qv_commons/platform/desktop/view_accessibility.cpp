@@ -137,7 +137,7 @@ class AccessibleLinkText final : public QAccessibleWidget, public ReadText {
   }
 
  private:
-  QString all() const override { return text_.toPlainText(); }
+  QString all() const override { return text_.seenText(); }
 
   LinkTextView& text_;
   mutable QList<QAccessible::Id> links_;

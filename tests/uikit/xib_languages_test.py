@@ -1,0 +1,93 @@
+#!/usr/bin/python3
+"""Both screens in every language, laid out by a constraint solver: nothing is clipped or overlaps, and no word is
+broken, from the smallest phone to the largest tablet, at the usual text size and at twice that.
+
+    tests/uikit/xib_languages_test.py --table      prints how much room the tightest word of a screen has left in its
+                                                   line, in points
+"""
+
+import os
+import sys
+import unittest
+
+import python_test
+
+python_test.needs(**python_test.LAYOUT_PACKAGES)
+
+from xib_text import DEJAVU, LOHIT  # noqa: E402
+
+python_test.needs(files={DEJAVU: 'fonts-dejavu-core', LOHIT: 'fonts-lohit-deva'})
+
+from xib_document import BUNDLE, LANGUAGES, SCREENS, Document  # noqa: E402
+from xib_layout import DEVICES  # noqa: E402
+from xib_layout_test import Layout, problems  # noqa: E402
+
+sys.dont_write_bytecode = True
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), '../../tools'))
+from screen_texts import FILLER, parse_strings  # noqa: E402
+
+TEXT_SIZES = ('L', 'AX2')  # of 17 and of 33 points
+# A line may end after any character of theirs.
+WITHOUT_BLANKS = ('ja', 'ko', 'zh-Hans', 'zh-Hant')
+PLACES = {'text': ('.', 'text'), 'normalTitle': ("state[@key='normal']", 'title'),
+          'accessibilityLabel': ('accessibility', 'label')}
+
+
+def document(screen, language):
+    """The layout with the words of the language in it, as they are seen."""
+    found = Document.load(screen)
+    with open(os.path.join(BUNDLE, f'{language}.lproj', f'{screen}.strings'), 'rb') as file:
+        for key, text in parse_strings(file.read()).items():
+            item, kind = key.split('.')
+            element, attribute = PLACES[kind]
+            found.items[item].element.find(element).set(attribute, text.replace(FILLER, ''))
+    return found
+
+
+def margin(layout, language):
+    """What is left of a line beside the widest word of all."""
+    def left(id, content):
+        words = content.text if language in WITHOUT_BLANKS else content.text.split(' ')
+        pieces = [content.text] if content.item.kind == 'button' else words
+        return layout.frames[id].width - content.padding[0] - max(map(content.font.width, pieces))
+    return min(left(id, content) for id, content in layout.contents.items() if content.font)
+
+
+def every_layout(language):
+    for screen in SCREENS:
+        for device in DEVICES:
+            for size in TEXT_SIZES:
+                layout = Layout(document(screen, language), device, size,
+                                lambda shown: shown.replace('[APPNAME]', 'Lantern'))
+                yield screen, device, size, layout
+
+
+class XibLanguages(unittest.TestCase):
+    def test_every_language_fits(self):
+        for language in LANGUAGES:
+            for screen, device, size, layout in every_layout(language):
+                with self.subTest(language, screen=screen, device=device.name, size=size):
+                    self.assertEqual(problems(layout), [])
+                    self.assertGreaterEqual(margin(layout, language), 0)
+
+    def test_a_word_that_is_too_long_is_found(self):
+        long = document(SCREENS[0], 'de')
+        long.items['header'].element.set('text', 'Wie lautet Ihr Geburtsdatum?')
+        self.assertLess(margin(Layout(long, DEVICES[0], 'AX2'), 'de'), 0)
+
+    def test_the_words_are_the_languages(self):
+        self.assertEqual(document(SCREENS[0], 'de').items['confirm'].element.find('state').get('title'), 'Bestätigen')
+
+
+def print_table():
+    print('| language | screen | size | text | margin |\n| --- | --- | --- | --- | --- |')
+    for language in LANGUAGES:
+        for screen, device, size, layout in every_layout(language):
+            print(f'| {language} | {screen} | {device.name} | {size} | {margin(layout, language):.0f} |')
+
+
+if __name__ == '__main__':
+    if sys.argv[1:] == ['--table']:
+        print_table()
+    else:
+        python_test.main()
