@@ -49,6 +49,12 @@ int main(int count, char** arguments) {
                                                           "support@example.com", "Help", {},
                                                           "Hello!", std::nullopt, {});
   });
+  QWidget tools(&window, Qt::Tool);
+  auto* tool = new QPushButton("Tool");
+  (new QVBoxLayout(&tools))->addWidget(tool);
+  QObject::connect(tool, &QPushButton::clicked, [] { say("used the tool"); });
   window.show();
+  tools.show();
+  window.activateWindow();
   return QApplication::exec();
 }

@@ -104,6 +104,7 @@ def application():
 
 def judge_gate(frame):
     covered = find("push button", "Contact support")
+    tool = find("push button", "Tool")
     act(find("push button", "Age gate"), "Press")
     wait_for("the gate is a dialog named by its header, alone in the window",
              lambda: [(child.getRoleName(), child.name) for child in frame] ==
@@ -112,6 +113,7 @@ def judge_gate(frame):
     check("it is modal", "modal" in states(frame[0]))
     check("the host's buttons are not in the tree", find("push button", "Age gate") is None)
     check("nor pressed by a reader that holds on to one", not presses(covered))
+    check("nor are its tool window's", find("push button", "Tool") is None and not presses(tool))
     group, month = find("panel", "Date of birth"), find("spin button", "month")
     check("the wheels are a named group", group is not None and month.parent == group)
     heard.clear()

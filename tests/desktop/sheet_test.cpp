@@ -3,7 +3,9 @@
 #include "qv_commons/platform/desktop/sheet.h"
 
 #include <QApplication>
+#include <QDockWidget>
 #include <QLabel>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QPointer>
 #include <QScrollArea>
@@ -98,6 +100,34 @@ TEST_F(SheetTest, KeepsThePointerFromTheHost) {
   }
   EXPECT_EQ(host_.takeNotes(), QStringList());
   EXPECT_TRUE(sheet.isAncestorOf(QApplication::focusWidget()));
+}
+
+TEST_F(SheetTest, KeepsTheHostsFloatingPartsFromTheUser) {
+  QDockWidget dock("Tools", &host_);
+  auto* tool = new QPushButton("&Tool");
+  int pressed = 0;
+  QObject::connect(tool, &QPushButton::clicked, [&] { ++pressed; });
+  dock.setWidget(tool);
+  dock.setFloating(true);
+  dock.show();
+  const auto use = [&] {
+    const QPoint place = tool->mapTo(&dock, tool->rect().center());
+    QTest::mouseClick(dock.windowHandle(), Qt::LeftButton, {}, place);
+    tool->setFocus();
+    QTest::keyClick(dock.windowHandle(), Qt::Key_Space);
+  };
+  use();
+  EXPECT_EQ(pressed, 2);
+  Sheet& sheet = show();
+  use();
+  EXPECT_EQ(pressed, 2);
+  QMessageBox question(QMessageBox::Question, "Question", "Of the host", QMessageBox::Ok, &host_);
+  question.show();
+  QTest::mouseClick(question.button(QMessageBox::Ok), Qt::LeftButton);
+  EXPECT_FALSE(question.isVisible());
+  sheet.dismiss();
+  use();
+  EXPECT_EQ(pressed, 4);
 }
 
 TEST_F(SheetTest, LetsGoOfAButtonThatIsHeldDownAndDoesNotClickIt) {

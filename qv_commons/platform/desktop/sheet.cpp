@@ -186,8 +186,9 @@ bool Sheet::isCovered(const QObject& object) {
        widget = widget->parentWidget()) {
     const auto* sheet = qobject_cast<const Sheet*>(widget);
     if (sheet != nullptr && !sheet->isWindow()) return topOf(*sheet->parentWidget()) != sheet;
-    // A menu belongs to what opens it.
-    if (widget->isWindow() && widget->windowType() != Qt::Popup) return topOf(*widget) != nullptr;
+    // A menu belongs to what opens it, and so does a tool window, like a dock widget that floats.
+    const bool belongs = widget->windowType() == Qt::Popup || widget->windowType() == Qt::Tool;
+    if (widget->isWindow() && !belongs) return topOf(*widget) != nullptr;
   }
   return false;
 }
