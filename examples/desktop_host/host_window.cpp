@@ -58,7 +58,8 @@ class ServiceRow final : public QPushButton {
     setAccessibleName(title);
     setAccessibleDescription(explanation);
     setCursor(Qt::PointingHandCursor);
-    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    setFocusPolicy(Qt::TabFocus);  // its ring is for the keyboard
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
 
@@ -87,12 +88,23 @@ QLabel* makeLabel(const QString& text, const char* role, QWidget* parent) {
   return label;
 }
 
+QPushButton* makeBackButton(std::function<void()> use) {
+  auto* back = new QPushButton("‹ Back");
+  back->setObjectName("back");
+  back->setAccessibleName("Back");
+  back->setProperty("role", "back");
+  QObject::connect(back, &QPushButton::clicked, back, std::move(use));
+  return back;
+}
+
 HostWindow::HostWindow(const QString& appName, bool dark)
     : pages_(new QStackedWidget), status_(makeLabel("", "status", this)) {
   setObjectName("host");
   setWindowTitle(appName);
   resize(kPhone);
   setMinimumSize(kSmallestPhone);
+  setFocusPolicy(Qt::ClickFocus);
+  setFocus();  // no row has the focus before Tab is pressed
   pages_->addWidget(makeList(appName));
   status_->setObjectName("status");
 
@@ -135,12 +147,7 @@ void HostWindow::addPage(const QString& name, const QString& title, const QStrin
                          QWidget* content) {
   auto* page = new QWidget;
   auto* layout = pageLayout(page);
-  auto* back = new QPushButton("‹ Back");
-  back->setObjectName("back");
-  back->setAccessibleName("Back");
-  back->setProperty("role", "back");
-  connect(back, &QPushButton::clicked, this, &HostWindow::goHome);
-  layout->addWidget(back, 0, Qt::AlignLeading);
+  layout->addWidget(makeBackButton([this] { goHome(); }), 0, Qt::AlignLeading);
   layout->addWidget(makeLabel(title, "title"));
   layout->addWidget(scrolling(content), 1);
   addBarePage(name, title, explanation, page);

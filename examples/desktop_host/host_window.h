@@ -47,4 +47,7 @@ class HostWindow final : public QWidget {
 // A line of text in one of the window's styles: "title", "rowTitle", "text", "hint" or "status".
 QLabel* makeLabel(const QString& text, const char* role, QWidget* parent = nullptr);
 
+// What leads from a page to the list.
+QPushButton* makeBackButton(std::function<void()> use);
+
 }  // namespace host

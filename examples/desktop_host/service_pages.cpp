@@ -124,7 +124,7 @@ QTabWidget* makeTopControllerPage(const desktop::DesktopPlatform& desktop, QStac
     tab->setProperty("role", "page");
     auto* column = columnOf(tab);
     column->setContentsMargins(20, 16, 20, 0);
-    column->addWidget(makeButton("back", "‹ Back", goHome), 0, Qt::AlignLeading);
+    column->addWidget(makeBackButton(goHome), 0, Qt::AlignLeading);
     column->addWidget(
         makeLabel("The look-up starts at the window and ends at what is on top of "
                   "it. An alert counts as the page that shows it.",
