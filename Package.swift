@@ -10,10 +10,14 @@ let languages = [
     "zh-Hans", "zh-Hant",
 ]
 
+// Below a target's path, the package manager takes each <language>.lproj for a resource of that target.
+let localized = ["qv_commons/resources", "swift/resources", "swift/core/include/qv_commons/resources"]
+
 var targets: [Target] = [
     .target(
         name: "QVCommonsCore",
         path: ".",
+        exclude: localized,
         sources: [
             "qv_commons/age_gate", "qv_commons/app_info", "qv_commons/support", "qv_commons/time",
             "qv_commons/view_utils", "qv_commons/platform/fatal_error.cpp",
@@ -26,7 +30,7 @@ var targets: [Target] = [
         name: "QVCommonsMemory",
         dependencies: ["QVCommonsCore"],
         path: ".",
-        exclude: ["qv_commons/platform/memory/CMakeLists.txt"],
+        exclude: localized + ["qv_commons/platform/memory/CMakeLists.txt"],
         sources: ["qv_commons/platform/memory"],
         publicHeadersPath: "swift/memory/include"),
     .testTarget(

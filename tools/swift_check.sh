@@ -82,15 +82,6 @@ swift linux -emit-module -o "$out/interface/QV_Commons_iOS.swiftmodule" -module-
   -import-underlying-module -emit-symbol-graph -emit-symbol-graph-dir "$out/interface" "$out/empty.swift"
 python3 $tests/compare_interface.py "$out/interface" tests/uikit/public_interface.txt || fail "the interface is another"
 
-# The package's description, with what it holds on a Mac and without.
-library=$toolchain/tree/usr/libexec/swift/lib/swift
-sed 's/^#if os(macOS)$/#if true/' Package.swift >"$out/Package.swift"
-for manifest in Package.swift "$out/Package.swift"; do
-  "$toolchain/swift-frontend" -frontend -typecheck -swift-version 5 -resource-dir "$library" \
-    -module-cache-path "$out/cache" -I "$library/pm/ManifestAPI" -package-description-version 5.9.0 "$manifest" ||
-    fail "$manifest is refused"
-done
-
 # An SDK from before these marks were known.
 swift linux -typecheck -Xcc -DMOCK_OLD_SDK -swift-version 5 $tests/accepted/any_thread.swift ||
   fail "the headers need the marks of a later SDK"

@@ -43,6 +43,15 @@ in_root swift-test --package-path "$package" >"$out/test.log" 2>&1 || { cat "$ou
 tests=$(cat swift/tests/*.swift | grep -c 'func test')
 grep -q "Executed $tests tests, with 0 failures" "$out/test.log" || { cat "$out/test.log"; fail "not $tests tests"; }
 
+# What a Mac builds besides.
+mkdir -p "$out/mac"
+ln -sfn ../QV_Commons/{qv_commons,swift} "$out/mac"
+sed 's/^#if os(macOS)$/#if true/' Package.swift >"$out/mac/Package.swift"
+in_root swift-package --package-path "$out/mac" describe --type json >"$out/mac.json" 2>"$out/mac.log" ||
+  { cat "$out/mac.log"; fail "Package.swift is refused"; }
+[ ! -s "$out/mac.log" ] || { cat "$out/mac.log"; fail "Package.swift is warned of"; }
+tests/swift/package_targets.py <"$out/mac.json" || fail "the package is not what CMake builds"
+
 mirror tests/swift/cxx_host "$host"
 mkdir -p "$host/Sources/cxx_host"
 cp -p examples/quickstart/main.cpp "$host/Sources/cxx_host"

@@ -1,6 +1,7 @@
 // The memory adapter for Swift, which does not see types that can't be copied.
 #pragma once
-#include "QVCommonsCore.h"  // first: what it declares is that module's, not this one's again
+#include <QVCommonsCore.h>  // first: what it declares is that module's, not this one's again
+
 #include "qv_commons/platform/memory/memory_platform.h"
 #include "qv_commons/platform/platform.h"
 
