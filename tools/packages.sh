@@ -7,7 +7,7 @@ tour_packages=(msmtp python3-aiosmtpd)
 test_packages=(git clang clang-format clang-tidy llvm libclang-rt-dev lcov libgtest-dev
   libgmock-dev libssl-dev locales tzdata xvfb dbus-daemon dpkg-dev file doxygen strace openbox xdotool
   weston qt6-wayland at-spi2-core python3-pyatspi
-  fonts-dejavu-core fonts-lohit-deva fonts-droid-fallback)
+  fonts-dejavu-core fonts-lohit-deva fonts-wqy-microhei)
 bench_packages=(libbenchmark-dev libfmt-dev libabsl-dev libssl-dev libglib2.0-dev libboost-dev)
 ios_packages=(clang libgnustep-base-dev clang-19 libc++-19-dev lld-19 musl-dev python3-clang
   python3-kiwisolver python3-pil)

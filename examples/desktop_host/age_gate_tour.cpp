@@ -21,17 +21,26 @@ QString nameOf(UserInterfaceStyle style) {
   return style == UserInterfaceStyle::dark ? "dark" : "light";
 }
 
+// Of the names of pictures.
+QString suffixFor(const Options& options) {
+  const QString suffix = "-" + nameOf(options.appearance);
+  return options.language.isEmpty() ? suffix : suffix + "-" + options.language;
+}
+
 void start(Stage& stage, const Options& options, const QString& scene, const QString& data,
            const QDate& birthDate, const QString& appearance) {
-  stage.note("-- a start of the app, " + appearance);
+  stage.note("-- a start of the app, " + appearance +
+             (options.language.isEmpty() ? "" : ", in " + options.language));
   QProcess process;
   process.setProcessChannelMode(QProcess::ForwardedChannels);
-  process.start(
-      QCoreApplication::applicationFilePath(),
-      {"--tour", stage.path(""), "--scene", scene, "--data", data, "--bundle",
-       options.bundleDirectory, "--appearance", appearance, "--birth-date",
-       birthDate.toString(Qt::ISODate), "--minimum-age", QString::number(options.minimumAge),
-       "--system-version", QString::number(options.systemVersion)});
+  QStringList arguments{
+      "--tour",       stage.path(""), "--scene",      scene,
+      "--data",       data,           "--bundle",     options.bundleDirectory,
+      "--appearance", appearance,     "--birth-date", birthDate.toString(Qt::ISODate)};
+  arguments += {"--minimum-age", QString::number(options.minimumAge), "--system-version",
+                QString::number(options.systemVersion)};
+  if (!options.language.isEmpty()) arguments += {"--language", options.language};
+  process.start(QCoreApplication::applicationFilePath(), arguments);
   constexpr int kPatienceMs = 60000;
   if (!process.waitForFinished(kPatienceMs) || process.exitCode() != 0) {
     stage.fail("the start did not end well: " + process.errorString());
@@ -44,6 +53,20 @@ void tourLife(Stage& stage, const Options& options, const QString& data, const Q
              QString::number(options.minimumAge));
   for (const QString& scene : {QString("leave"), QString("confirm"), QString("return")}) {
     start(stage, options, scene, data, birthDate, appearance);
+  }
+}
+
+// Both screens in a language without blanks between its words, and in one from right to left.
+void tourLanguages(Stage& stage, const Options& options, const QString& data,
+                   const QDate& birthDate) {
+  for (const QString& language : {QString("ja"), QString("ar")}) {
+    Options spoken = options;
+    spoken.language = language;
+    const QString life = data + "/in-" + language;
+    if (options.dataDirectory.isEmpty()) QDir(life).removeRecursively();
+    stage.note("== Age gate: in " + language);
+    start(stage, spoken, "leave", life, birthDate, "light");
+    start(stage, spoken, "confirm", life, birthDate, "light");
   }
 }
 
@@ -73,7 +96,7 @@ void pick(Stage& stage, QWidget& gate, const QDate& date) {
 }
 
 void confirm(Stage& stage, Session& session, QWidget& gate, const Options& options) {
-  const QString suffix = "-" + nameOf(options.appearance);
+  const QString suffix = suffixFor(options);
   pick(stage, gate, *options.birthDate);
   stage.picture("age-gate-picked" + suffix, gate);
   stage.click(gate, "confirmBtn");
@@ -101,10 +124,11 @@ void tourAgeGate(Stage& stage, const Options& options) {
       tourLife(stage, options, life, today.addYears(-age), appearance);
     }
   }
+  if (options.language.isEmpty()) tourLanguages(stage, options, data, today.addYears(-9));
 }
 
 void playAgeGateStart(Stage& stage, const Options& options, const DesktopSettings& settings) {
-  const QString suffix = "-" + nameOf(options.appearance);
+  const QString suffix = suffixFor(options);
   Session session(settings, Device::playedPhone, options.minimumAge);
   session.window().show();
   stage.click(session.window(), "start");

@@ -28,7 +28,10 @@ qv_commons::desktop::DesktopSettings settingsFor(const host::Options& options) {
   settings.dataDirectory = options.dataDirectory.toStdString();
   settings.userInterfaceStyle = options.appearance;
   settings.systemVersion = options.systemVersion;
-
+  if (!options.language.isEmpty()) {
+    settings.languages = {options.language.toStdString()};
+    settings.calendar.locale = options.language.toStdString();
+  }
   settings.onError = [](const std::string& error) {
     std::fprintf(stderr, "desktop_host: %s\n", error.c_str());
   };

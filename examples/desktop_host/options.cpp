@@ -1,6 +1,7 @@
 #include "examples/desktop_host/options.h"
 
 #include <QCommandLineParser>
+#include <QLocale>
 #include <cstdio>
 
 namespace host {
@@ -19,6 +20,7 @@ struct Flags {
   QCommandLineOption appearance{"appearance", "In place of the desktop's own look.", "light|dark"};
   QCommandLineOption systemVersion{"system-version",
                                    "The major version that the library takes it for.", "N", "17"};
+  QCommandLineOption language{"language", "What the screens speak, for example ja.", "LANGUAGE"};
   QCommandLineOption memory{"memory", "With run.sh: run the tour on the memory adapter."};
   QCommandLineOption scene{"scene", "The part of the tour that this process plays.", "NAME"};
   QCommandLineOption help{{"h", "help"}, "Print this."};
@@ -62,12 +64,20 @@ Fault readSystemVersion(const QCommandLineParser& parser, const Flags& flags, Op
   return isNumber ? std::nullopt : wrongValue(parser, flags.systemVersion);
 }
 
+Fault readLanguage(const QCommandLineParser& parser, const Flags& flags, Options& options) {
+  options.language = parser.value(flags.language);
+  const bool isKnown = QLocale(options.language).language() != QLocale::C;
+  return isKnown || !parser.isSet(flags.language) ? std::nullopt
+                                                  : wrongValue(parser, flags.language);
+}
+
 Fault readAll(const QCommandLineParser& parser, const Flags& flags, Options& options) {
   options.bundleDirectory = parser.value(flags.bundle);
   options.dataDirectory = parser.value(flags.data);
   if (parser.isSet(flags.tour)) options.tourDirectory = parser.value(flags.tour);
   if (parser.isSet(flags.scene)) options.scene = parser.value(flags.scene);
-  for (const auto read : {readBirthDate, readMinimumAge, readAppearance, readSystemVersion}) {
+  for (const auto read :
+       {readBirthDate, readMinimumAge, readAppearance, readSystemVersion, readLanguage}) {
     if (Fault fault = read(parser, flags, options)) return fault;
   }
   if (parser.positionalArguments().isEmpty()) return std::nullopt;
@@ -81,7 +91,8 @@ std::optional<Options> parseOptions(const QStringList& arguments, int& exitCode)
   parser.setApplicationDescription("The desktop host app: every service of the library.");
   const Flags flags;
   parser.addOptions({flags.bundle, flags.tour, flags.data, flags.birthDate, flags.minimumAge,
-                     flags.appearance, flags.systemVersion, flags.memory, flags.scene, flags.help});
+                     flags.appearance, flags.systemVersion, flags.language, flags.memory,
+                     flags.scene, flags.help});
   const bool isUnderstood = parser.parse(arguments);
   if (isUnderstood && parser.isSet(flags.help)) {
     std::printf("%s", qPrintable(parser.helpText()));

@@ -20,6 +20,7 @@ struct Options {
   std::int64_t minimumAge = 16;          // --minimum-age
   qv_commons::UserInterfaceStyle appearance = qv_commons::UserInterfaceStyle::unspecified;
   int systemVersion = 17;  // --system-version
+  QString language;        // --language; empty: the user's
 };
 
 // Nothing where the arguments asked for help or can't be understood; then `exitCode` is how the

@@ -127,7 +127,10 @@ int playScene(const Options& options, const DesktopSettings& settings) {
 }  // namespace
 
 int runTour(const Options& options, DesktopSettings settings) {
-  settings.calendar.locale = "en-GB";
+  if (options.language.isEmpty()) {
+    settings.languages = {"en"};
+    settings.calendar.locale = "en-GB";
+  }
   if (options.scene) return playScene(options, settings);
   Stage stage(*options.tourDirectory, Stage::Transcript::fresh);
   if (!stage.isUsable()) return 1;

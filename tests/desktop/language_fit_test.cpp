@@ -160,7 +160,9 @@ INSTANTIATE_TEST_SUITE_P(
                     Language{"uk", true, QFontDatabase::Cyrillic},
                     Language{"zh-Hans", false, QFontDatabase::SimplifiedChinese},
                     Language{"zh-Hant", false, QFontDatabase::TraditionalChinese}),
-    [](const auto& tried) { return std::string(tried.param.name).substr(0, 2) + std::to_string(tried.index); });
+    [](const auto& tried) {
+      return std::string(tried.param.name).substr(0, 2) + std::to_string(tried.index);
+    });
 
 }  // namespace
 }  // namespace qv_commons::desktop

@@ -46,8 +46,7 @@ TEST(TableNames, GoFromTheRegionToTheLanguage) {
 }
 
 TEST(TableNames, HaveTheScriptThatTheRegionWrites) {
-  EXPECT_THAT(namesOf("zh_TW.UTF-8@variant"),
-              ElementsAre("zh-Hant-TW", "zh-TW", "zh-Hant", "zh"));
+  EXPECT_THAT(namesOf("zh_TW.UTF-8@variant"), ElementsAre("zh-Hant-TW", "zh-TW", "zh-Hant", "zh"));
   EXPECT_THAT(namesOf("zh-HK"), ElementsAre("zh-Hant-HK", "zh-HK", "zh-Hant", "zh"));
   EXPECT_THAT(namesOf("zh-SG"), ElementsAre("zh-Hans-SG", "zh-SG", "zh-Hans", "zh"));
   EXPECT_THAT(namesOf("zh"), ElementsAre("zh-Hans-CN", "zh-CN", "zh-Hans", "zh"));
@@ -176,7 +175,8 @@ TEST_F(Languages, LeaveTheLookAsTheLayoutHasIt) {
   EXPECT_EQ(text.document()->blockCount(), 1);
   EXPECT_EQ(block.blockFormat().alignment(), Qt::AlignHCenter);
   QTextCursor cursor(text.document());
-  for (const auto& [place, weight] : {std::pair(1, 600), {14, 600}, {16, 400}, {18, 600}, {33, 600}}) {
+  for (const auto& [place, weight] :
+       {std::pair(1, 600), {14, 600}, {16, 400}, {18, 600}, {33, 600}}) {
     cursor.setPosition(place);
     EXPECT_EQ(cursor.charFormat().fontWeight(), weight) << place;
   }
@@ -195,8 +195,9 @@ void collectHeard(QAccessibleInterface& thing, QStringList& heard) {
 }
 
 TEST_F(Languages, FillLinksWithWhatIsNeverHeard) {
-  const std::pair<const char*, const char*> labels[] = {
-      {"de", "Support kontaktieren"}, {"ja", "サポートにお問い合わせください"}, {"ar", "التواصل مع الدعم"}};
+  const std::pair<const char*, const char*> labels[] = {{"de", "Support kontaktieren"},
+                                                        {"ja", "サポートにお問い合わせください"},
+                                                        {"ar", "التواصل مع الدعم"}};
   for (const auto& [language, label] : labels) {
     QWidget& refusing = refusalIn({language});
     for (const char* name : {"tos", "contact"}) {
@@ -303,8 +304,10 @@ TEST_F(HostsLanguages, EndWhereTheyMakeNoSense) {
   QWidget& asking = gateIn({"de"});
   EXPECT_EQ(view<QPushButton>(asking, "confirmBtn").text(), "Weiter");
   EXPECT_EQ(header(asking), kEnglish);
-  EXPECT_THAT(errors_, ElementsAre(AllOf(HasSubstr("the string table "), EndsWith(
-                           "holds in line 2 what isn't of the form \"key\" = \"words\";"))));
+  EXPECT_THAT(
+      errors_,
+      ElementsAre(AllOf(HasSubstr("the string table "),
+                        EndsWith("holds in line 2 what isn't of the form \"key\" = \"words\";"))));
 }
 
 TEST_F(HostsLanguages, MayHaveTheAppsNameTwiceOrNotAtAll) {
@@ -338,7 +341,8 @@ TEST_F(HostsLanguages, AreNotLookedForByALayoutOfItsOwn) {
 class HostsTranslator final : public QTranslator {
  public:
   QString translate(const char* context, const char* text, const char*, int) const override {
-    const bool isHeader = QString("QV_AgeGateViewController") == context && QString(kEnglish) == text;
+    const bool isHeader =
+        QString("QV_AgeGateViewController") == context && QString(kEnglish) == text;
     return isHeader ? "Tell us your birthday" : QString();
   }
   bool isEmpty() const override { return false; }

@@ -111,10 +111,23 @@ class DesktopTour(unittest.TestCase):
     def test_lives_both_lives_light_and_dark(self):
         transcript = (self.out / "transcript.txt").read_text()
         self.assertEqual(starts(transcript),
-                         2 * ["asked", "allowed", "allowed", "asked", "refused", "refused"])
+                         2 * ["asked", "allowed", "allowed", "asked", "refused", "refused"]
+                         + 2 * ["asked", "refused"])
         for look in ("light", "dark"):
             for state in ("age-gate", "age-gate-picked", "allowed", "refused", "refused-again"):
                 self.assertTrue((self.out / f"{state}-{look}.png").exists(), state)
+
+    def test_shows_the_screens_in_other_languages(self):
+        for language in ("ja", "ar"):
+            for state in ("age-gate", "refused"):
+                self.assertNotEqual((self.out / f"{state}-light-{language}.png").read_bytes(),
+                                    (self.out / f"{state}-light.png").read_bytes(), state)
+
+    def test_speaks_the_language_it_is_given(self):
+        with tempfile.TemporaryDirectory() as out:
+            done = run("--tour", out, "--birth-date", "2020-01-01", "--language", "de")
+            self.assertEqual(done.returncode, 0, done.stdout)
+            self.assertTrue(pathlib.Path(out, "refused-light-de.png").exists())
 
     def test_confirms_the_date_it_is_given(self):
         today = datetime.date.today()
@@ -145,7 +158,8 @@ class DesktopTour(unittest.TestCase):
     def test_refuses_what_it_cannot_read(self):
         for arguments in (("--birth-date", "1980-02-30"), ("--birth-date", "yesterday"),
                           ("--minimum-age", "many"), ("--appearance", "blue"),
-                          ("--system-version", "twelve"), ("--system-version", "1.2.3.4")):
+                          ("--system-version", "twelve"), ("--system-version", "1.2.3.4"),
+                          ("--language", "klingon")):
             done = run(*arguments)
             self.assertEqual(done.returncode, 2, arguments)
             self.assertIn(arguments[1], done.stderr)
@@ -153,7 +167,7 @@ class DesktopTour(unittest.TestCase):
     def test_says_how_it_is_used(self):
         self.assertEqual(run("--help").returncode, 0)
         for option in ("--bundle", "--tour", "--data", "--help", "--birth-date", "--minimum-age",
-                       "--appearance", "--system-version"):
+                       "--appearance", "--system-version", "--language"):
             self.assertIn(option, run("--help").stdout)
         wrong = run("--colour")
         self.assertEqual(wrong.returncode, 2)

@@ -38,8 +38,9 @@ StringTable parseStringTable(std::string_view bytes) {
   const QString text = fromUtf8(bytes);
   StringTable table;
   for (qsizetype place = 0; place < text.size();) {
-    const QRegularExpressionMatch match = piece.match(
-        text, place, QRegularExpression::NormalMatch, QRegularExpression::AnchorAtOffsetMatchOption);
+    const QRegularExpressionMatch match =
+        piece.match(text, place, QRegularExpression::NormalMatch,
+                    QRegularExpression::AnchorAtOffsetMatchOption);
     if (!match.hasMatch()) {
       table.problem = QString(R"(holds in line %1 what isn't of the form "key" = "words";)")
                           .arg(text.left(place).count('\n') + 1);
