@@ -91,6 +91,11 @@ if [ ! -d "$toolchain/ios" ]; then
   mv "$toolchain/ios.new" "$toolchain/ios"
 fi
 check ios
+# The example's UI test, which only a Mac runs.
+swift ios -emit-module -module-name XCTest -o "$out/ios/XCTest.swiftmodule" $tests/overlay/XCTest.swift
+for version in 5 6; do
+  swift ios -typecheck -swift-version $version examples/ios_host/UITests/*.swift || fail "the UI test is refused in Swift $version"
+done
 objc_headers=build/dev/objc_compat
 if [ -d $objc_headers ] && [ -d build/unpacked ]; then
   tools/ios_check.py build/ios $objc_headers

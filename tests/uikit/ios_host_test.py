@@ -4,9 +4,11 @@
 import json
 import os
 import plistlib
+import re
 import unittest
 
 import python_test
+import xib_document
 
 HOST = os.path.join(os.path.dirname(__file__), '../../examples/ios_host')
 
@@ -74,6 +76,27 @@ class IosHost(unittest.TestCase):
         for file in os.listdir(HOST):
             if file.endswith(('.m', '.swift', '.json', '.storyboard')):
                 self.assertIn(f'  {file}', listed)
+
+    def test_the_description_of_a_project_leaves_out_what_is_no_part_of_the_app(self):
+        """It takes the folder: what CMake does not list is excluded by name."""
+        excluded = re.search(r'excludes: \[(.*)\]', read('project.yml'))[1].split(', ')
+        listed = read('CMakeLists.txt')
+        self.assertEqual(sorted(excluded), sorted(
+            name for name in os.listdir(HOST)
+            if f'  {name}' not in listed and not name.endswith(('.h', '.plist'))))
+
+    def test_the_ui_test_asks_for_what_is_there(self):
+        test = read('UITests/AgeGateUITests.swift')
+        there = {element.get('identifier') for screen in xib_document.SCREENS
+                 for element in xib_document.Document.load(screen).root.iter('accessibility')}
+        asked = set(re.findall('\\["(QV_[A-Za-z_]+)"\\]', test))
+        self.assertGreater(len(asked), 4)
+        self.assertLessEqual(asked, there)
+        keys = read('../../qv_commons/age_gate/age_gate_decision.h')
+        for key in re.findall('"-(QV_[A-Za-z_]+)"', test):
+            self.assertIn(f'"{key}"', keys)
+        self.assertIn('"Let through"', test)
+        self.assertIn('@"Let through"', read('ServicesViewController.m'))
 
 
 if __name__ == '__main__':
