@@ -22,6 +22,7 @@ class ComposerTest : public testing::Test {
  protected:
   ComposerTest() {
     settings_.dataDirectory = folder_.path("data");
+    settings_.languages = {"en"};
     settings_.mailWays = {MailWay::sendmail};  // whatever else this machine has
     settings_.senderAddress = "ada@example.com";
     useMailProgram("cat >\"" + folder_.path("sent") + "\"; echo \"$@\" >\"" +

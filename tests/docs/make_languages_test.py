@@ -4,6 +4,7 @@ import importlib.machinery
 import importlib.util
 import json
 import pathlib
+import re
 import subprocess
 import sys
 import tempfile
@@ -94,6 +95,25 @@ class English(unittest.TestCase):
             "header.text": "We’re sorry, [APPNAME] isn’t available to you",
             "contact.text": "If you think this is an error, please contact us for support.",
             "policies.text": "Privacy Policy & Terms of Service"})
+
+
+class Translations(unittest.TestCase):
+    """Of the desktop's own words; that they are what is loaded is a test of the desktop's."""
+
+    def test_they_are_of_what_the_code_says(self):
+        folder = ROOT / "qv_commons/platform/desktop"
+        said = set()
+        for source in folder.glob("*.cpp"):
+            said |= set(re.findall(r'\b(?:words_|say)\("([^"]+)"\)', source.read_text(encoding="utf-8")))
+        self.assertEqual(len(said), 19)
+        sources = sorted(folder.glob("translations/*.ts"))
+        self.assertEqual({path.stem for path in sources}, LANGUAGES)
+        self.assertEqual({path.stem for path in folder.glob("translations/*.qm")}, LANGUAGES)
+        for path in sources:
+            root = ElementTree.parse(path).getroot()
+            self.assertEqual({message.findtext("source") for message in root.iter("message")}, said, path)
+            self.assertEqual(root.get("language"), path.stem.replace("-", "_"))
+            self.assertTrue(all(message.findtext("translation") for message in root.iter("message")))
 
 
 class BadTables(unittest.TestCase):

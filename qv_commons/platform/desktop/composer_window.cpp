@@ -10,6 +10,7 @@
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QResizeEvent>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QStyle>
@@ -83,9 +84,10 @@ QString sizeText(std::size_t bytes) {
 
 }  // namespace
 
-ComposerWindow::ComposerWindow(Callbacks callbacks) : callbacks_(std::move(callbacks)) {
+ComposerWindow::ComposerWindow(Callbacks callbacks, const Words& words)
+    : callbacks_(std::move(callbacks)), words_(words) {
   setProperty("role", "page");
-  setWindowTitle("New message");
+  setWindowTitle(words_("New message"));
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
@@ -107,18 +109,18 @@ ComposerWindow::ComposerWindow(Callbacks callbacks) : callbacks_(std::move(callb
 
 QWidget* ComposerWindow::makeBar() {
   auto* bar = named(new QWidget, "bar", "page");
-  auto* layout = new QHBoxLayout(bar);
+  bar_ = new QHBoxLayout(bar);
   // The plain button's padding lies in the margin, so that its text lines up with the fields.
   QMargins margins(kSideMargin - kButtonPadding, kSideMargin, kSideMargin, kGap / 2);
   if (layoutDirection() == Qt::RightToLeft) {
     margins = {margins.right(), margins.top(), margins.left(), margins.bottom()};
   }
-  layout->setContentsMargins(margins);
-  cancel_ = makeButton("cancel", "Cancel", Qt::ALT | Qt::Key_C, "plain", callbacks_.cancel);
-  send_ = makeButton("send", "Send", Qt::ALT | Qt::Key_S, "primary", callbacks_.send);
-  layout->addWidget(cancel_);
-  layout->addStretch();
-  layout->addWidget(send_);
+  bar_->setContentsMargins(margins);
+  cancel_ = makeButton("cancel", words_("Cancel"), Qt::ALT | Qt::Key_C, "plain", callbacks_.cancel);
+  send_ = makeButton("send", words_("Send"), Qt::ALT | Qt::Key_S, "primary", callbacks_.send);
+  bar_->addWidget(cancel_);
+  bar_->addStretch();
+  bar_->addWidget(send_);
   return bar;
 }
 
@@ -135,22 +137,22 @@ QWidget* ComposerWindow::makePage() {
   notice_->hide();
   layout->addWidget(notice_);
   progress_ = named(new QProgressBar, "progress", "progress");
-  progress_->setAccessibleName("Progress");
+  progress_->setAccessibleName(words_("Progress"));
   progress_->hide();
   layout->addWidget(progress_);
 
   recipients_ = makeLineEdit("to");
   recipients_->setInputMethodHints(Qt::ImhEmailCharactersOnly);
-  addField(*layout, "To", *recipients_);
+  addField(*layout, words_("To"), *recipients_);
   subject_ = makeLineEdit("subject");
-  addField(*layout, "Subject", *subject_);
+  addField(*layout, words_("Subject"), *subject_);
   body_ = named(new MessageEdit, "body", "field");
   body_->setTabChangesFocus(true);
   body_->document()->setDocumentMargin(kLineEditMargin);
   body_->document()->setModified(false);  // by the user
   body_->setVerticalScrollBar(new ThinScrollBar(Qt::Vertical));
   body_->setMinimumHeight(qRound(120 * textScale()));
-  addField(*layout, "Message", *body_, 1);
+  addField(*layout, words_("Message"), *body_, 1);
   hidden_ = makeLabel("hidden", "", "caption");
   hidden_->hide();
   layout->addWidget(hidden_);
@@ -158,12 +160,13 @@ QWidget* ComposerWindow::makePage() {
   attachments_ = new QVBoxLayout;
   attachments_->setSpacing(kGap / 2);
   layout->addLayout(attachments_);
-  attaching_ = makeLabel("attaching", "An attachment is being read…", "caption");
+  attaching_ = makeLabel("attaching", words_("An attachment is being read…"), "caption");
   attaching_->hide();
   layout->addWidget(attaching_);
-  save_ = makeButton("save", "Save draft", Qt::ALT | Qt::Key_D, "secondary", callbacks_.save);
+  save_ =
+      makeButton("save", words_("Save draft"), Qt::ALT | Qt::Key_D, "secondary", callbacks_.save);
   layout->addWidget(save_);
-  drafts_ = makeButton("drafts", "Open a draft", Qt::ALT | Qt::Key_R, "secondary", nullptr);
+  drafts_ = makeButton("drafts", words_("Open a draft"), Qt::ALT | Qt::Key_R, "secondary", nullptr);
   drafts_->setMenu(new QMenu(drafts_));
   drafts_->hide();
   layout->addWidget(drafts_);
@@ -214,7 +217,8 @@ void ComposerWindow::setBody(std::string body) {
   text_ = EditedText(std::move(body));
   body_->setPlainText(text_.shown());
   const std::size_t hidden = text_.hiddenBytes();
-  hidden_->setText("And " + sizeText(hidden) + " more of this text, which are sent as they are.");
+  hidden_->setText(
+      words_("And %1 more of this text, which are sent as they are.").arg(sizeText(hidden)));
   hidden_->setVisible(hidden != 0);
   edits_ =
       connect(body_->document(), &QTextDocument::contentsChange, this, &ComposerWindow::onEdited);
@@ -241,7 +245,7 @@ void ComposerWindow::addAttachment(const MailAttachment& attachment) {
   QLabel* nameLabel = makeLabel("attachmentName", breakable(name), "text");
   QLabel* sizeLabel = makeLabel("attachmentSize", size, "caption");
   nameLabel->setAccessibleName(name);  // without the places to break
-  sizeLabel->setAccessibleName("Attachment " + name + ", " + size);
+  sizeLabel->setAccessibleName(words_("Attachment %1, %2").arg(name, size));
   column->addWidget(nameLabel);
   column->addWidget(sizeLabel);
   attachments_->addLayout(column);
@@ -267,7 +271,8 @@ void ComposerWindow::showDrafts(const std::vector<DraftSummary>& drafts) {
   for (const DraftSummary& draft : drafts) {
     const QString when =
         QLocale().toString(QDateTime::fromSecsSinceEpoch(draft.written), QLocale::ShortFormat);
-    const QString subject = draft.subject.empty() ? "(no subject)" : fromUtf8(draft.subject);
+    const QString subject =
+        draft.subject.empty() ? words_("(no subject)") : fromUtf8(draft.subject);
     QAction* action = menu.addAction(QString(subject + ", " + when).replace('&', "&&"));
     connect(action, &QAction::triggered, this,
             [this, name = draft.name] { callbacks_.openDraft(name); });
@@ -300,7 +305,10 @@ void ComposerWindow::setPhase(Phase phase) {
   save_->setEnabled(editing);
   drafts_->setEnabled(editing);
   cancel_->setEnabled(phase != Phase::left);
-  cancel_->rename(phase == Phase::sending ? "Stop" : phase == Phase::saved ? "Done" : "Cancel");
+  cancel_->rename(phase == Phase::sending ? words_("Stop")
+                  : phase == Phase::saved ? words_("Done")
+                                          : words_("Cancel"));
+  layOutBar();
   if (phase == Phase::saved) cancel_->setFocus();
 }
 
@@ -312,6 +320,19 @@ void ComposerWindow::showNotice(const QString& text, Severity severity) {
   notice_->show();
   scroll_->ensureWidgetVisible(notice_);
   announce(text);
+}
+
+void ComposerWindow::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  layOutBar();
+}
+
+// Long words in large letters stand below each other.
+void ComposerWindow::layOutBar() {
+  const QMargins margins = bar_->contentsMargins();
+  const int room = width() - margins.left() - margins.right() - 2 * bar_->spacing();
+  const bool fits = cancel_->minimumSizeHint().width() + send_->minimumSizeHint().width() <= room;
+  bar_->setDirection(fits ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
 }
 
 void ComposerWindow::hideEvent(QHideEvent* event) {

@@ -9,7 +9,9 @@
 #include "qv_commons/platform/desktop/edited_text.h"
 #include "qv_commons/platform/desktop/mail_drafts.h"
 #include "qv_commons/platform/desktop/mail_message.h"
+#include "qv_commons/platform/desktop/words.h"
 
+class QHBoxLayout;
 class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
@@ -32,7 +34,8 @@ class ComposerWindow final : public QWidget {
     std::function<void()> hidden;  // with the window around it, or because the composer goes
   };
 
-  explicit ComposerWindow(Callbacks callbacks);
+  // `words` outlive all that is done to it.
+  ComposerWindow(Callbacks callbacks, const Words& words);
 
   // Nobody is called any more.
   void forgetCallbacks() { callbacks_ = {}; }
@@ -76,15 +79,19 @@ class ComposerWindow final : public QWidget {
 
  protected:
   void hideEvent(QHideEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   QWidget* makeBar();
   QWidget* makePage();
   void addField(QVBoxLayout& page, const QString& caption, QWidget& field, int stretch = 0);
   void addShortcuts();
+  void layOutBar();
   void onEdited(int position, int removed, int added);
 
   Callbacks callbacks_;
+  const Words& words_;
+  QHBoxLayout* bar_ = nullptr;
   SheetButton* cancel_ = nullptr;
   SheetButton* send_ = nullptr;
   SheetButton* save_ = nullptr;

@@ -39,17 +39,19 @@ std::string joined(const std::vector<std::string>& texts) {
 
 }  // namespace
 
-DesktopComposer::DesktopComposer(SharedContext context)
-    : NativeOf(
-          std::move(context),
-          std::make_shared<ComposerWindow>(ComposerWindow::Callbacks{
-              .send = [this] { later([this] { send(); }); },
-              .save = [this] { later([this] { save(); }); },
-              .cancel = [this] { later([this] { cancel(); }); },
-              .openDraft =
-                  [this](const std::string& name) { later([this, name] { openDraft(name); }); },
-              .hidden = [this] { keepWhatWasTyped(); }}),
-          Sheet::Form::panel),
+DesktopComposer::DesktopComposer(const SharedContext& context)
+    : NativeOf(context,
+               std::make_shared<ComposerWindow>(
+                   ComposerWindow::Callbacks{.send = [this] { later([this] { send(); }); },
+                                             .save = [this] { later([this] { save(); }); },
+                                             .cancel = [this] { later([this] { cancel(); }); },
+                                             .openDraft =
+                                                 [this](const std::string& name) {
+                                                   later([this, name] { openDraft(name); });
+                                                 },
+                                             .hidden = [this] { keepWhatWasTyped(); }},
+                   context->words),
+               Sheet::Form::panel),
       window_(static_cast<ComposerWindow&>(content())),
       identity_(toUtf8(QUuid::createUuid().toString(QUuid::WithoutBraces))) {
   QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &progressTimer_,
@@ -194,12 +196,13 @@ void DesktopComposer::cancel() {
 }
 
 void DesktopComposer::askBeforeLeaving() {
+  const auto say = [this](const char* english) { return toUtf8(context().words(english)); };
   const auto question =
-      std::make_shared<DesktopAlert>(sharedContext(), "Discard this message?",
-                                     "What you have written is lost unless you save it.");
-  question->addAction("Save draft", AlertActionStyle::standard, [this] { save(); });
-  question->addAction("Discard", AlertActionStyle::destructive, [this] { giveUp(); });
-  question->addAction("Keep writing", AlertActionStyle::cancel, nullptr);
+      std::make_shared<DesktopAlert>(sharedContext(), say("Discard this message?"),
+                                     say("What you have written is lost unless you save it."));
+  question->addAction(say("Save draft"), AlertActionStyle::standard, [this] { save(); });
+  question->addAction(say("Discard"), AlertActionStyle::destructive, [this] { giveUp(); });
+  question->addAction(say("Keep writing"), AlertActionStyle::cancel, nullptr);
   present(question, true, nullptr);
 }
 

@@ -20,7 +20,7 @@ namespace qv_commons::desktop {
 
 class DesktopComposer final : public NativeOf<MailComposer, SheetController>, public Unfinished {
  public:
-  explicit DesktopComposer(SharedContext context);
+  explicit DesktopComposer(const SharedContext& context);
   ~DesktopComposer() override;
 
   void setToRecipients(std::vector<std::string> recipients) override;

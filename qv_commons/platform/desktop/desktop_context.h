@@ -11,6 +11,7 @@
 #include "qv_commons/platform/desktop/desktop_look.h"
 #include "qv_commons/platform/desktop/desktop_platform.h"
 #include "qv_commons/platform/desktop/mail_ways.h"
+#include "qv_commons/platform/desktop/words.h"
 #include "qv_commons/platform/presentation.h"
 
 namespace qv_commons::desktop {
@@ -30,6 +31,8 @@ struct DesktopContext {
   explicit DesktopContext(DesktopSettings given) : settings(std::move(given)) {}
 
   DesktopSettings settings;
+
+  Words words{settings};
 
   // The controllers of the host's own widgets that somebody holds.
   std::map<const QWidget*, HostController*> hosts;

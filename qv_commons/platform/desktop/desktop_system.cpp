@@ -41,13 +41,17 @@ std::string DesktopDevice::localizedModel() const {
   return toUtf8(distribution + " PC");
 }
 
-std::vector<std::string> DesktopDevice::preferredLanguages() const {
-  if (!settings_.languages.empty()) return settings_.languages;
+std::vector<std::string> preferredLanguages(const DesktopSettings& settings) {
+  if (!settings.languages.empty()) return settings.languages;
   std::vector<std::string> languages;
   for (const QString& language : QLocale::system().uiLanguages()) {
     if (language != "C") languages.push_back(toUtf8(language));
   }
   return languages;
+}
+
+std::vector<std::string> DesktopDevice::preferredLanguages() const {
+  return desktop::preferredLanguages(settings_);
 }
 
 Size DesktopDevice::screenBounds() const {

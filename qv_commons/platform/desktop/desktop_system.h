@@ -15,6 +15,10 @@ namespace qv_commons::desktop {
 // even one is taken, as monitors have.
 double pointsOf(int rounded, double scale);
 
+// The host's setting; else from LANGUAGE, LC_ALL, LC_MESSAGES or LANG; empty if they name no
+// language.
+std::vector<std::string> preferredLanguages(const DesktopSettings& settings);
+
 class DesktopDevice final : public Device {
  public:
   // Both outlive it.
@@ -29,8 +33,6 @@ class DesktopDevice final : public Device {
 
   bool isSystemVersionAtLeast(int major) const override { return settings_.systemVersion >= major; }
 
-  // The host's setting; else from LANGUAGE, LC_ALL, LC_MESSAGES or LANG; empty if they name no
-  // language.
   std::vector<std::string> preferredLanguages() const override;
 
   // Of the primary monitor.

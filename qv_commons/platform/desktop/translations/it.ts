@@ -1,0 +1,102 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<!-- Not read by a native speaker. -->
+<TS version="2.1" language="it" sourcelanguage="en">
+<context>
+    <name>qv_commons</name>
+    <message>
+        <source>New message</source>
+        <extracomment>Title of the composer</extracomment>
+        <translation>Nuovo messaggio</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>Button that closes the composer</extracomment>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <extracomment>Button</extracomment>
+        <translation>Invia</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <extracomment>Button that ends what goes on</extracomment>
+        <translation>Interrompi</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <extracomment>Button that closes the composer once all is done</extracomment>
+        <translation>Fine</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <extracomment>Whom the message is for; a field's caption</extracomment>
+        <translation>A</translation>
+    </message>
+    <message>
+        <source>Subject</source>
+        <extracomment>A field's caption</extracomment>
+        <translation>Oggetto</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <extracomment>A field's caption</extracomment>
+        <translation>Messaggio</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <extracomment>Heard, not seen: a progress bar's name</extracomment>
+        <translation>Avanzamento</translation>
+    </message>
+    <message>
+        <source>An attachment is being read…</source>
+        <translation>Lettura di un allegato…</translation>
+    </message>
+    <message>
+        <source>Save draft</source>
+        <extracomment>Button</extracomment>
+        <translation>Salva bozza</translation>
+    </message>
+    <message>
+        <source>Open a draft</source>
+        <extracomment>Button with a menu of drafts</extracomment>
+        <translation>Apri bozza</translation>
+    </message>
+    <message>
+        <source>And %1 more of this text, which are sent as they are.</source>
+        <extracomment>%1 is a size, for example 12 kB</extracomment>
+        <translation>E altri %1 di questo testo, inviati così come sono.</translation>
+    </message>
+    <message>
+        <source>Attachment %1, %2</source>
+        <extracomment>Heard, not seen: %1 is a file's name, %2 its size</extracomment>
+        <translation>Allegato %1, %2</translation>
+    </message>
+    <message>
+        <source>(no subject)</source>
+        <extracomment>In the menu of drafts</extracomment>
+        <translation>(nessun oggetto)</translation>
+    </message>
+    <message>
+        <source>Discard this message?</source>
+        <extracomment>Asked before the composer is closed</extracomment>
+        <translation>Eliminare il messaggio?</translation>
+    </message>
+    <message>
+        <source>What you have written is lost unless you save it.</source>
+        <extracomment>Below that question</extracomment>
+        <translation>Quello che hai scritto andrà perso se non lo salvi.</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <extracomment>Button: close, and lose what was written</extracomment>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>Keep writing</source>
+        <extracomment>Button: back to the composer</extracomment>
+        <translation>Continua</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,40 @@
+#include "qv_commons/platform/desktop/words.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+
+#include "qv_commons/platform/desktop/desktop_system.h"
+#include "qv_commons/platform/desktop/qt_text.h"
+#include "qv_commons/platform/desktop/screen_words.h"
+
+// A static library's resources are linked only where they are asked for, outside of any namespace.
+static void linkTranslations() {
+  Q_INIT_RESOURCE(qv_commons_layouts);
+}
+
+namespace qv_commons::desktop {
+
+constexpr const char* kContext = "qv_commons";
+
+QString Words::operator()(const char* english) const {
+  const QString source = QString::fromUtf8(english);
+  QString apps = QCoreApplication::translate(kContext, english);
+  if (apps != source) return apps;
+  if (!isLoaded_) load();
+  QString ours = translator_.translate(kContext, english);
+  return ours.isEmpty() ? source : ours;
+}
+
+void Words::load() const {
+  isLoaded_ = true;
+  linkTranslations();
+  for (const std::string& each : preferredLanguages(settings_)) {
+    const QLocale language(fromUtf8(each));
+    for (const QString& name : tableNames(language)) {
+      if (translator_.load(":/qv_commons/translations/" + name + ".qm")) return;
+    }
+    if (language.language() == QLocale::English) return;
+  }
+}
+
+}  // namespace qv_commons::desktop

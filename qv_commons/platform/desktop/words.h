@@ -1,0 +1,30 @@
+// The adapter's own words, such as the composer's, in the user's language. They are in English in the
+// code, and in translations/ in others.
+//
+//     button->setText(words("Cancel"));
+#pragma once
+
+#include <QString>
+#include <QTranslator>
+
+#include "qv_commons/platform/desktop/desktop_platform.h"
+
+namespace qv_commons::desktop {
+
+class Words {
+ public:
+  // `settings` outlive it. Nothing is read before a word is asked for.
+  explicit Words(const DesktopSettings& settings) : settings_(settings) {}
+
+  // An app's own translator comes first, asked in the context "qv_commons".
+  QString operator()(const char* english) const;
+
+ private:
+  void load() const;
+
+  const DesktopSettings& settings_;
+  mutable QTranslator translator_;
+  mutable bool isLoaded_ = false;
+};
+
+}  // namespace qv_commons::desktop
