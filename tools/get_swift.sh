@@ -9,6 +9,7 @@ set -eu
 mkdir -p "$1"
 to=$(realpath "$1")
 if [ -e "$to/in_root" ]; then exit; fi
+rm -rf "$to/tree" "$to/source" "$to/ios"  # left by a run that was broken off, or by an earlier script
 mkdir -p "$to/lists/partial" "$to/cache/archives/partial" "$to/packages" "$to/tree" "$to/source"
 
 # The archive that this machine's apt uses, in a configuration of its own.

@@ -3,7 +3,7 @@
 # the example, the apps of README.md and docs/ios.md and every accepted case compile in Swift 5 and 6, every
 # refused case is turned down for its reason. For Linux, where the interface of the platform is the
 # mock in tests/swift, and, to Mach-O, for arm64-apple-ios11.0, for which the example and the apps are
-# linked with the library, too. Then its package manager over Package.swift (tests/swift/package_check.sh).
+# linked with the library, too. Then its package manager over Package.swift (tests/swift/package_check.sh, device_package_check.sh).
 #
 #     tools/swift_check.sh [OUT]        by default build/swift/out
 #
@@ -96,14 +96,21 @@ swift ios -emit-module -module-name XCTest -o "$out/ios/XCTest.swiftmodule" $tes
 for version in 5 6; do
   swift ios -typecheck -swift-version $version examples/ios_host/UITests/*.swift || fail "the UI test is refused in Swift $version"
 done
-objc_headers=build/dev/objc_compat
-if [ -d $objc_headers ] && [ -d build/unpacked ]; then
-  tools/ios_check.py build/ios $objc_headers
+linked=true
+if [ -d build/dev/objc_compat ] && [ -d build/unpacked ]; then
+  tools/ios_check.py build/ios build/dev/objc_compat
   $tests/link_check.py "$toolchain" build/ios "$out"/ios/{host,README,ios}{5,6}.o || fail "an app does not link"
 else
+  linked=false
   echo "swift: nothing is linked, as ./test.sh has not built"
 fi
-$tests/package_check.sh "$toolchain" build/swift/package || fail "the package"
+packaged=0
+$tests/package_check.sh "$toolchain" build/swift/package || packaged=$?
+if [ $packaged -eq 0 ] && $linked; then
+  $tests/device_package_check.sh "$toolchain" build/swift/package || fail "the app's package"
+elif [ $packaged -ne 0 ] && [ $packaged -ne 77 ]; then
+  fail "the package"
+fi
 
 echo "swift: $(ls $tests/accepted | wc -l) cases accepted and $(ls $tests/refused | wc -l) refused, in Swift 5 and 6, for Linux and iOS: $failures failed"
 [ $failures -eq 0 ]

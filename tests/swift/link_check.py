@@ -4,6 +4,7 @@ example, as tests/uikit/ios_link.py does, against one more stub library: the nam
 sources list as exported by its libraries for this processor.
 
     tests/swift/link_check.py TOOLCHAIN IOS_OUT OBJECT...     each object alone, with -ObjC and without
+    tests/swift/link_check.py TOOLCHAIN IOS_OUT FOLDER        all objects of a package, which has the library
 """
 
 import glob
@@ -27,6 +28,8 @@ $sSa10FoundationE19_bridgeToObjectiveCSo7NSArrayCyF
 """.split()
 CARRIED = [f'_swift_FORCE_LOAD_$_swiftCompatibility{name}'
            for name in ('50', '51', '56', 'Concurrency', 'DynamicReplacements')]
+# Objects name the libraries that they come with by a file of the tools; the stub is in their place.
+NAMED = ['-ignore_auto_link', '-framework', 'CoreFoundation']
 
 
 def swift_names(toolchain):
@@ -38,23 +41,35 @@ def swift_names(toolchain):
     return found
 
 
+def check_package(linker, folder, stub):
+    objects = glob.glob(folder + '/**/*.o', recursive=True)
+    said, path = linker.link_all('package', '12.0', '-dylib', *objects, stub, *NAMED)
+    if said or not ios_link.WITHOUT_REFERENCE <= ios_link.names(path):
+        yield f'the package: {said or "classes are left out"}'
+
+
+def check_objects(linker, objects, stub):
+    for item in objects:
+        for flags in ([], ['-ObjC']):
+            said, path = linker.link('swift_host', item, *linker.example(), stub, *NAMED, *flags)
+            if said or not ios_link.WITHOUT_REFERENCE <= ios_link.names(path):
+                yield f'{item} {flags}: {said or "classes are left out"}'
+    said, _ = linker.link('swift_host', objects[0], *linker.example(), *NAMED)
+    if 'undefined symbol: _$s' not in said:
+        yield "without Swift's libraries nothing is missed"
+    print(f'swift: {len(objects)} objects tried with the example, with -ObjC and without')
+
+
 def main():
-    toolchain, out, *objects = sys.argv[1:]
+    toolchain, out, *inputs = sys.argv[1:]
     linker = ios_link.Linker(out)
     stub = os.path.join(out, 'swift.tbd')
     ios_link.write_stub(stub, [*swift_names(toolchain), *OVERLAYS, *CARRIED, *UIKIT_NAMES], UIKIT_CLASSES)
-    # Objects name the libraries that they come with by a file of the tools; the stub is in their place.
-    named = ['-ignore_auto_link', '-framework', 'CoreFoundation']
-    failures = []
-    for item in objects:
-        for flags in ([], ['-ObjC']):
-            said, path = linker.link('swift_host', item, *linker.example(), stub, *named, *flags)
-            if said or not ios_link.WITHOUT_REFERENCE <= ios_link.names(path):
-                failures.append(f'{item} {flags}: {said or "classes are left out"}')
-    said, _ = linker.link('swift_host', objects[0], *linker.example(), *named)
-    if 'undefined symbol: _$s' not in said:
-        failures.append("without Swift's libraries nothing is missed")
-    print('\n'.join(failures) or f'swift: {len(objects)} objects link for the device, with -ObjC and without')
+    if os.path.isdir(inputs[0]):
+        failures = list(check_package(linker, inputs[0], stub))
+    else:
+        failures = list(check_objects(linker, inputs, stub))
+    print('\n'.join(failures), end='')
     return bool(failures)
 
 

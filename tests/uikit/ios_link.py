@@ -85,11 +85,14 @@ class Linker:
                 if re.fullmatch(r'examples_ios_host_.*\.o', name)]
 
     def link(self, name, *inputs):
-        """What the linker says, and the path of what it made."""
+        """With the library: what the linker says, and the path of what it made."""
+        return self.link_all(name, '11.0', *inputs, *self.archives)
+
+    def link_all(self, name, system, *inputs):
         path = os.path.join(self._build, name)
         result = subprocess.run(
-            ['ld64.lld-19', '-arch', 'arm64', '-platform_version', 'ios', '11.0', '11.0', '-F',
-             self._out, '-o', path, *inputs, *self.archives, *self._stubs], capture_output=True, text=True, check=False)
+            ['ld64.lld-19', '-arch', 'arm64', '-platform_version', 'ios', system, system, '-F',
+             self._out, '-o', path, *inputs, *self._stubs], capture_output=True, text=True, check=False)
         return result.stderr, path
 
 
