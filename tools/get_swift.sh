@@ -18,9 +18,10 @@ archive=$(apt-get indextargets --format '$(REPO_URI) $(CODENAME) $(SUITE)' 'Crea
   awk -v codename="$VERSION_CODENAME" '$2 == codename { print $1; exit }')
 signed='[signed-by=/usr/share/keyrings/debian-archive-keyring.gpg]'
 printf 'deb %s %s trixie main\ndeb-src %s %s trixie main\n' "$signed" "$archive" "$signed" "$archive" >"$to/sources.list"
+: >"$to/status"  # nothing is installed, so all that is needed comes
 private_apt() {
   apt-get -qq -o Dir::Etc::SourceList="$to/sources.list" -o Dir::Etc::SourceParts=/dev/null \
-    -o Dir::State::Lists="$to/lists" -o Dir::Cache="$to/cache" -o Dir::State::status=/dev/null \
+    -o Dir::State::Lists="$to/lists" -o Dir::Cache="$to/cache" -o Dir::State::status="$to/status" \
     -o APT::Sandbox::User= "$@"
 }
 private_apt update
@@ -40,7 +41,7 @@ for archive in swiftlang_*.orig*.tar.*; do
     '*/stdlib/public/Cxx/*' '*/test/abi/Inputs/macOS/arm64/*/baseline' '*/swift/utils/*.py' '*/utils/availability-macros.def' 2>/dev/null || true
 done
 find "$to/source" -name gyb.py | grep -q .
-rm -r "$to/packages" "$to/cache" "$to/lists"
+rm -r "$to/packages" "$to/cache" "$to/lists" "$to"/status* "$to"/lock*
 
 cat >"$to/swift-frontend" <<'SCRIPT'
 #!/bin/sh
