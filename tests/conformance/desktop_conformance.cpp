@@ -169,6 +169,7 @@ class DesktopAdapter final : public Adapter {
   desktop::DesktopPlatform& desktop() {
     if (!desktop_) {
       settings_.dataDirectory = folder_.path("data");
+      settings_.languages = {"en"};
       settings_.calendar = {"en-US", "UTC"};
       desktop_.emplace(settings_);
     }

@@ -159,6 +159,7 @@ TEST_F(LargeMail, IsHandedOverBesideTheMainThread) {
   const QByteArray path = qgetenv("PATH");
   qputenv("PATH", QByteArray::fromStdString(folder_.path("bin") + ":") + path);
   const DesktopPlatform desktop({.bundleDirectory = folder_.path("bundle"),
+                                 .languages = {"en"},
                                  .dataDirectory = folder_.path("data"),
                                  .mailWays = {MailWay::xdgEmail}});
   const ScopedPlatform scope(desktop.platform());

@@ -36,6 +36,7 @@ class SupportMailTest : public testing::Test {
   TestFolder folder_;
   QWidget window_;
   DesktopPlatform desktop_{{.bundleDirectory = folder_.path("bundle"),
+                            .languages = {"en"},
                             .dataDirectory = folder_.path("data"),
                             .mailWays = {MailWay::sendmail},
                             .sendmailProgram = folder_.writeProgram("sendmail", "cat >/dev/null"),

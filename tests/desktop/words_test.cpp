@@ -1,4 +1,6 @@
 // The composer's own words in the user's language.
+#include "qv_commons/platform/desktop/words.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QLabel>
@@ -8,14 +10,12 @@
 #include <QXmlStreamReader>
 #include <map>
 
-#include "qv_commons/platform/desktop/words.h"
-
 #include "tests/desktop/composer_fixture.h"
 
 namespace qv_commons::desktop {
 namespace {
 
-const QStringList kLanguages{"ar", "de", "es", "fr", "he", "hi", "it", "ja",     "ko",
+const QStringList kLanguages{"ar", "de", "es", "fr", "he", "hi", "it",      "ja",     "ko",
                              "nl", "pl", "pt", "ru", "tr", "uk", "zh-Hans", "zh-Hant"};
 
 DesktopSettings speaking(const QString& language) {
@@ -118,8 +118,9 @@ TEST_P(ComposersWords, FitOnASmallPhoneWithTextsTwiceAsLarge) {
   EXPECT_LE(area.widget()->width(), area.viewport()->width());
 }
 
-INSTANTIATE_TEST_SUITE_P(All, ComposersWords, testing::ValuesIn(kLanguages),
-                         [](const auto& tried) { return QString(tried.param).remove('-').toStdString(); });
+INSTANTIATE_TEST_SUITE_P(All, ComposersWords, testing::ValuesIn(kLanguages), [](const auto& tried) {
+  return QString(tried.param).remove('-').toStdString();
+});
 
 }  // namespace
 }  // namespace qv_commons::desktop

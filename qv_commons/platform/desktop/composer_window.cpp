@@ -78,8 +78,8 @@ QLabel* makeLabel(const QString& name, const QString& text, const char* role) {
   return label;
 }
 
-QString sizeText(std::size_t bytes) {
-  return QLocale().formattedDataSize(static_cast<qint64>(bytes), 1, QLocale::DataSizeSIFormat);
+QString sizeText(std::size_t bytes, const QLocale& locale) {
+  return locale.formattedDataSize(static_cast<qint64>(bytes), 1, QLocale::DataSizeSIFormat);
 }
 
 }  // namespace
@@ -217,8 +217,8 @@ void ComposerWindow::setBody(std::string body) {
   text_ = EditedText(std::move(body));
   body_->setPlainText(text_.shown());
   const std::size_t hidden = text_.hiddenBytes();
-  hidden_->setText(
-      words_("And %1 more of this text, which are sent as they are.").arg(sizeText(hidden)));
+  hidden_->setText(words_("And %1 more of this text, which are sent as they are.")
+                       .arg(sizeText(hidden, words_.locale())));
   hidden_->setVisible(hidden != 0);
   edits_ =
       connect(body_->document(), &QTextDocument::contentsChange, this, &ComposerWindow::onEdited);
@@ -239,7 +239,7 @@ void ComposerWindow::onEdited(int position, int removed, int added) {
 
 void ComposerWindow::addAttachment(const MailAttachment& attachment) {
   const QString name = fromUtf8(attachment.fileName);
-  const QString size = sizeText(attachment.data.size());
+  const QString size = sizeText(attachment.data.size(), words_.locale());
   auto* column = new QVBoxLayout;
   column->setSpacing(0);
   QLabel* nameLabel = makeLabel("attachmentName", breakable(name), "text");
@@ -269,8 +269,8 @@ void ComposerWindow::showDrafts(const std::vector<DraftSummary>& drafts) {
   QMenu& menu = *drafts_->menu();
   menu.clear();
   for (const DraftSummary& draft : drafts) {
-    const QString when =
-        QLocale().toString(QDateTime::fromSecsSinceEpoch(draft.written), QLocale::ShortFormat);
+    const QString when = words_.locale().toString(QDateTime::fromSecsSinceEpoch(draft.written),
+                                                  QLocale::ShortFormat);
     const QString subject =
         draft.subject.empty() ? words_("(no subject)") : fromUtf8(draft.subject);
     QAction* action = menu.addAction(QString(subject + ", " + when).replace('&', "&&"));

@@ -1,7 +1,6 @@
 #include "qv_commons/platform/desktop/words.h"
 
 #include <QCoreApplication>
-#include <QLocale>
 
 #include "qv_commons/platform/desktop/desktop_system.h"
 #include "qv_commons/platform/desktop/qt_text.h"
@@ -23,6 +22,10 @@ QString Words::operator()(const char* english) const {
   if (!isLoaded_) load();
   QString ours = translator_.translate(kContext, english);
   return ours.isEmpty() ? source : ours;
+}
+
+QLocale Words::locale() const {
+  return settings_.languages.empty() ? QLocale() : QLocale(fromUtf8(settings_.languages.front()));
 }
 
 void Words::load() const {

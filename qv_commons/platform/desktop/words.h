@@ -1,9 +1,10 @@
-// The adapter's own words, such as the composer's, in the user's language. They are in English in the
-// code, and in translations/ in others.
+// The adapter's own words, such as the composer's, in the user's language. They are in English in
+// the code, and in translations/ in others.
 //
 //     button->setText(words("Cancel"));
 #pragma once
 
+#include <QLocale>
 #include <QString>
 #include <QTranslator>
 
@@ -18,6 +19,9 @@ class Words {
 
   // An app's own translator comes first, asked in the context "qv_commons".
   QString operator()(const char* english) const;
+
+  // By which numbers and dates are written: of the host's first language, else Qt's default.
+  QLocale locale() const;
 
  private:
   void load() const;

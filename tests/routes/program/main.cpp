@@ -23,7 +23,8 @@ int main(int argc, char** argv) {
   const QApplication application(argc, argv);
   QWidget window;
   window.resize(390, 844);
-  const desktop::DesktopPlatform desktop({.dataDirectory = argv[2],
+  const desktop::DesktopPlatform desktop({.languages = {"en"},
+                                          .dataDirectory = argv[2],
                                           .calendar = {"en-US", "UTC"},
                                           .userInterfaceStyle = UserInterfaceStyle::light});
   installPlatform(desktop.platform());
