@@ -96,6 +96,10 @@ swift ios -emit-module -module-name XCTest -o "$out/ios/XCTest.swiftmodule" $tes
 for version in 5 6; do
   swift ios -typecheck -swift-version $version examples/ios_host/UITests/*.swift || fail "the UI test is refused in Swift $version"
 done
+if swift ios -typecheck -application-extension "$out/apps/README.swift" 2>"$out/extension" ||
+  ! grep -qF 'unavailable in application extensions for iOS' "$out/extension"; then
+  fail "the age gate is not refused in an app extension: $(cat "$out/extension")"
+fi
 linked=true
 if [ -d build/dev/objc_compat ] && [ -d build/unpacked ]; then
   tools/ios_check.py build/ios build/dev/objc_compat

@@ -20,6 +20,7 @@ NS_ASSUME_NONNULL_BEGIN
 /// "QV_AgeGate_Blocked", and is never taken back. Main thread only.
 NS_SWIFT_UI_ACTOR
 QV_EXPORT
+QV_APP_ONLY
 @interface QV_AgeGateHelper : NSObject
 
 /// Lets the user through, asks for the date of birth, or shows the refusal, as the user defaults

@@ -7,6 +7,7 @@ NS_ASSUME_NONNULL_BEGIN
 /// The app store's page for writing a review. Main thread only.
 NS_SWIFT_UI_ACTOR
 QV_EXPORT
+QV_APP_ONLY
 @interface QV_RateHelper : NSObject
 
 /// Opens the write-review page. Where the link can't be made or opened, nothing happens.

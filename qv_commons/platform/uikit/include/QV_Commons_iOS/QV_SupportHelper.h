@@ -20,6 +20,7 @@ NS_ASSUME_NONNULL_BEGIN
 /// Main thread only; `shared` alone may be asked for on any thread.
 NS_SWIFT_UI_ACTOR
 QV_EXPORT
+QV_APP_ONLY
 @interface QV_SupportHelper : NSObject <MFMailComposeViewControllerDelegate>
 
 /// The one instance for the whole process. An instance of your own has a delegate slot of its own;
