@@ -10,7 +10,7 @@
 namespace qv_commons::desktop {
 namespace {
 
-std::shared_ptr<QWidget> makeContent() {
+std::shared_ptr<QWidget> makeCard() {
   auto content = std::make_shared<QWidget>();
   content->setProperty("role", "page");
   new QVBoxLayout(content.get());
@@ -21,7 +21,7 @@ std::shared_ptr<QWidget> makeContent() {
 
 DesktopAlert::DesktopAlert(SharedContext context, const std::string& title,
                            const std::string& message)
-    : NativeOf(std::move(context), makeContent(), Sheet::Form::card),
+    : NativeOf(std::move(context), makeCard(), Sheet::Form::card),
       layout_(static_cast<QVBoxLayout&>(*content().layout())) {
   content().setWindowTitle(fromUtf8(title));
   content().setAccessibleDescription(fromUtf8(message));

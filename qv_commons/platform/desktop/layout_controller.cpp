@@ -17,7 +17,7 @@ namespace {
 constexpr QRgb kLightGround = 0xffe9e9ee;
 constexpr QRgb kDarkGround = 0xff000000;
 
-std::shared_ptr<QWidget> makeContent() {
+std::shared_ptr<QWidget> makePanel() {
   auto content = std::make_shared<QWidget>();
   auto* column = new QVBoxLayout(content.get());
   column->setContentsMargins(0, 0, 0, 0);
@@ -36,7 +36,7 @@ QString textOf(const QWidget& root) {
 
 LayoutController::LayoutController(SharedContext context, const ScreenServices& services,
                                    std::string path)
-    : NativeOf(std::move(context), makeContent(), Sheet::Form::panel),
+    : NativeOf(std::move(context), makePanel(), Sheet::Form::panel),
       services_(services),
       path_(std::move(path)) {}
 

@@ -20,7 +20,7 @@ namespace qv_commons::desktop {
 namespace {
 
 constexpr int kReach = 22;  // half of what a finger hits
-constexpr int kSmallestWidth = 120;
+constexpr int kSmallestTextWidth = 120;
 
 int heightOf(const QTextDocument& document) {
   return static_cast<int>(std::ceil(document.size().height()));
@@ -163,7 +163,7 @@ QSize LinkTextView::sizeHint() const {
 }
 
 QSize LinkTextView::minimumSizeHint() const {
-  return {kSmallestWidth, 0};
+  return {kSmallestTextWidth, 0};
 }
 
 void LinkTextView::changeEvent(QEvent* event) {

@@ -25,13 +25,13 @@ bool isVisible(std::string_view part) {
 }
 
 // RFC 5322, section 3.2.3, plus the letters beyond ASCII of RFC 6531.
-bool isPlain(std::string_view part) {
+bool isAtom(std::string_view part) {
   return part.find_first_of(" ()<>[]:;@\\,\"") == std::string_view::npos && isVisible(part);
 }
 
 bool isDotted(std::string_view part) {
   return !part.empty() && part.front() != '.' && part.back() != '.' &&
-         part.find("..") == std::string_view::npos && isPlain(part);
+         part.find("..") == std::string_view::npos && isAtom(part);
 }
 
 // What stands between two double quotes, without the backslashes that quote; std::nullopt where a

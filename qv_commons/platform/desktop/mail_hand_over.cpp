@@ -13,7 +13,7 @@
 namespace qv_commons::desktop {
 namespace {
 
-constexpr std::size_t kPiece = 1 << 20;
+constexpr std::size_t kWrittenPiece = 1 << 20;
 
 // Of the 128 KB of an argument, what is left for the body beside addresses, subject and files.
 constexpr std::size_t kLongestLinkedBody = 100'000;
@@ -59,7 +59,7 @@ bool writeFile(const std::string& path, std::string_view bytes, const std::atomi
   const FileDescriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600));
   if (!file.isOpen()) return false;
   while (!bytes.empty() && !isStopped) {
-    const std::string_view piece = bytes.substr(0, kPiece);
+    const std::string_view piece = bytes.substr(0, kWrittenPiece);
     if (!writeAll(file, piece)) return false;
     bytes.remove_prefix(piece.size());
     if (took) took(piece.size());

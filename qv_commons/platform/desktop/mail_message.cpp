@@ -2,6 +2,7 @@
 
 #include <gmime/gmime.h>
 
+#include "qv_commons/platform/desktop/gobject.h"
 #include "qv_commons/platform/desktop/mail_addresses.h"
 #include "qv_commons/platform/desktop/mail_encoding.h"
 
@@ -10,13 +11,6 @@ namespace {
 
 // No encoding of the parts gives a line that begins so.
 constexpr const char* kBoundary = "=_qv_commons_part";
-
-struct Unref {
-  void operator()(void* object) const { g_object_unref(object); }
-};
-
-template <class T>
-using Owned = std::unique_ptr<T, Unref>;
 
 // The form of a type is that of RFC 2045, section 5.1.
 bool isMimeType(std::string_view type) {

@@ -6,16 +6,10 @@
 #include <unistd.h>
 
 #include "qv_commons/platform/desktop/background_work.h"
+#include "qv_commons/platform/desktop/gobject.h"
 
 namespace qv_commons::desktop {
 namespace {
-
-struct Unref {
-  void operator()(void* object) const { g_object_unref(object); }
-};
-
-template <class T>
-using Owned = std::unique_ptr<T, Unref>;
 
 Owned<GMimeMessage> parse(GMimeStream& stream) {
   g_mime_init();

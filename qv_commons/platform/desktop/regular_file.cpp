@@ -11,7 +11,7 @@ namespace qv_commons::desktop {
 namespace {
 
 // After so many bytes a reader that is not wanted any more stops.
-constexpr std::size_t kPiece = 1 << 20;
+constexpr std::size_t kReadPiece = 1 << 20;
 
 FileContents failure(int error) {
   return {std::nullopt, describeError(error)};
@@ -34,7 +34,7 @@ FileContents readRegularFile(const FileLocation& location) {
   std::size_t length = 0;
   for (;;) {
     if (BackgroundWork::isStopRequested()) return failure(ECANCELED);
-    const std::size_t room = std::min(kPiece, bytes.size() - length);
+    const std::size_t room = std::min(kReadPiece, bytes.size() - length);
     const ssize_t got = ::read(file.number(), bytes.data() + length, room);
     if (got < 0 && errno == EINTR) continue;
     if (got < 0) return failure(errno);

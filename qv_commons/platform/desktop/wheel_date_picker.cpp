@@ -15,7 +15,7 @@ namespace {
 
 constexpr int kWheelPadding = 12;  // on both sides of a wheel's widest row
 constexpr int kWidestGap = 28;     // more between the wheels would tear them apart
-constexpr int kSmallestWidth = 240;
+constexpr int kSmallestPickerWidth = 240;
 constexpr int kSmallestFont = 10;
 constexpr double kBandRadius = 10;
 constexpr double kBandOpacity = 0.07;
@@ -51,7 +51,7 @@ void WheelDatePicker::setMaximumDate(std::optional<Instant> maximum) {
 }
 
 QSize WheelDatePicker::sizeHint() const {
-  return {kSmallestWidth, Wheel::heightFor(font())};
+  return {kSmallestPickerWidth, Wheel::heightFor(font())};
 }
 
 QSize WheelDatePicker::minimumSizeHint() const {
@@ -92,7 +92,6 @@ void WheelDatePicker::resizeEvent(QResizeEvent* event) {
 void WheelDatePicker::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::FontChange || event->type() == QEvent::LayoutDirectionChange) {
-    updateGeometry();
     rearrange();
   }
 }

@@ -16,7 +16,7 @@ QStringList argumentsFor(const HandedMail& mail) {
 }
 
 // The exit codes of its manual.
-std::string describeExit(int exitCode) {
+std::string describeXdgEmailExit(int exitCode) {
   switch (exitCode) {
     case 3:
       return "This computer has no mail program that xdg-email knows.";
@@ -68,7 +68,7 @@ XdgEmail::~XdgEmail() {
 
 void XdgEmail::onFinished(int exitCode, QProcess::ExitStatus status) {
   if (status == QProcess::CrashExit) return finish(Outcome::failed, "xdg-email crashed.");
-  if (exitCode != 0) return finish(Outcome::failed, describeExit(exitCode));
+  if (exitCode != 0) return finish(Outcome::failed, describeXdgEmailExit(exitCode));
   finish(Outcome::opened);
 }
 
