@@ -109,6 +109,15 @@ TEST(Utf8, RefusesTruncatedCharacters) {
   EXPECT_FALSE(isUtf8("\xE2\x82\xC3"));
 }
 
+TEST(Utf8, ReadsNothingBehindTheEnd) {
+  for (const std::string_view whole : {"\xC3\xA9"sv, "\xE2\x82\xAC"sv, "\xF0\x9F\x91\x8D"sv}) {
+    for (std::size_t length = 1; length < whole.size(); ++length) {
+      EXPECT_FALSE(isUtf8(whole.substr(0, length))) << length;
+    }
+    EXPECT_TRUE(isUtf8(whole));
+  }
+}
+
 TEST(Utf8, RefusesAContinuationByItself) {
   EXPECT_FALSE(isUtf8("\x80"));
   EXPECT_FALSE(isUtf8("a\xBF"));

@@ -169,7 +169,8 @@ TEST(MailMessage, RefusesAnAttachmentThatWouldForgeHeaders) {
   MailMessage message = plainMessage();
   for (const MailAttachment& file :
        {MailAttachment{"", "text/plain", "a\nb.txt"},
-        MailAttachment{"", "text/plain\nX: y", "a.txt"}, MailAttachment{"", "text", "a.txt"}}) {
+        MailAttachment{"", "text/plain\nX: y", "a.txt"}, MailAttachment{"", "text", "a.txt"},
+        MailAttachment{"", "text/html/x", "a.txt"}}) {
     message.attachments = {attachment(file)};
     EXPECT_EQ(problemOf(message), "The attachment's name or type can't be sent.");
     EXPECT_THAT(bytesOf(message), HasSubstr("\nContent-Type: application/octet-stream;"));

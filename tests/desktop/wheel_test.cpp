@@ -4,6 +4,7 @@
 #include <QDateTime>
 #include <QSignalSpy>
 #include <QTest>
+#include <QVBoxLayout>
 #include <QWheelEvent>
 #include <QWindow>
 #include <gmock/gmock.h>
@@ -252,6 +253,53 @@ TEST(DateWheels, AreNamedInTheLocalesLanguage) {
   EXPECT_EQ(wheels.name(DateField::day), "Tag");
   EXPECT_EQ(wheels.name(DateField::month), "Monat");
   EXPECT_EQ(wheels.name(DateField::year), "Jahr");
+}
+
+TEST_F(WheelTest, TakesASmallerFontWhereTheWheelsWouldNotFit) {
+  QFont large = picker_.font();
+  large.setPixelSize(24);
+  picker_.setFont(large);
+  const auto pixels = [&] { return QFontInfo(wheel(DateField::day).font()).pixelSize(); };
+  const auto total = [&] {
+    int sum = 0;
+    for (const Wheel* one : picker_.wheels()) sum += one->width();
+    return sum;
+  };
+  picker_.resize(600, picker_.height());
+  EXPECT_EQ(pixels(), 24);
+  int steps = 0;
+  for (int width = 600, last = 24; pixels() > 10; --width) {
+    ASSERT_GT(width, 0);
+    picker_.resize(width, picker_.height());
+    EXPECT_LE(pixels(), last);
+    if (pixels() < last) ++steps;
+    last = pixels();
+    const bool fits = total() <= width;
+    EXPECT_TRUE(fits || last == 10) << width;
+  }
+  EXPECT_EQ(steps, 14);  // none is skipped
+  picker_.resize(1, picker_.height());
+  EXPECT_EQ(pixels(), 10);
+  picker_.resize(600, picker_.height());
+  EXPECT_EQ(pixels(), 24);
+}
+
+TEST_F(WheelTest, TellsItsLayoutThatItsFontHasChanged) {
+  QWidget window;
+  auto* column = new QVBoxLayout(&window);
+  auto* picker = new WheelDatePicker(calendar_);
+  column->addWidget(picker);
+  column->addStretch();
+  window.resize(400, 900);
+  QFont font = picker->font();
+  font.setPixelSize(10);
+  picker->setFont(font);
+  window.show();
+  const int before = picker->height();
+  font.setPixelSize(30);
+  picker->setFont(font);
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+  EXPECT_GT(picker->height(), before);
 }
 
 class BritishWheelTest : public WheelTest {

@@ -28,5 +28,15 @@ TEST(Utf16, ShowsHalfAPairAsAReplacement) {
   EXPECT_EQ(utf8Of(u"\xD83D\xD83D\xDC4D"), "\uFFFD👍");
 }
 
+TEST(Utf16, KnowsTheEndsOfBothHalves) {
+  EXPECT_EQ(utf16Of("\U00010000"), u"\xD800\xDC00");
+  EXPECT_EQ(utf8Of(u"\xD800\xDC00"), "\U00010000");
+  EXPECT_EQ(utf8Of(u"\xDBFF\xDFFF"), "\U0010FFFF");
+  EXPECT_EQ(utf8Of(u"\xD7FF\xDC00"), "\xED\x9F\xBF\uFFFD");
+  EXPECT_EQ(utf8Of(u"\xD800\xE000"), "\uFFFD\uE000");
+  EXPECT_EQ(utf8Of(u"\xD800\xDBFF"), "\uFFFD\uFFFD");
+  EXPECT_EQ(utf8Of(u"\xDC00\xDFFF"), "\uFFFD\uFFFD");
+}
+
 }  // namespace
 }  // namespace qv_commons::memory

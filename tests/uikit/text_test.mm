@@ -43,6 +43,15 @@ TEST(TextConversion, ReplacesHalvesOfSurrogatePairs) {
   EXPECT_EQ(toString(fromUnits({0xD83D, 0xD83D, 0xDE80})), "\xEF\xBF\xBD\xF0\x9F\x9A\x80");
 }
 
+TEST(TextConversion, KnowsTheEndsOfBothHalvesOfSurrogatePairs) {
+  EXPECT_EQ(toString(fromUnits({0xD800, 0xDC00})), "\xF0\x90\x80\x80");
+  EXPECT_EQ(toString(fromUnits({0xDBFF, 0xDFFF})), "\xF4\x8F\xBF\xBF");
+  EXPECT_EQ(toString(fromUnits({0xD7FF, 0xDC00})), "\xED\x9F\xBF\xEF\xBF\xBD");
+  EXPECT_EQ(toString(fromUnits({0xD800, 0xE000})), "\xEF\xBF\xBD\xEE\x80\x80");
+  EXPECT_EQ(toString(fromUnits({0xD800, 0xDBFF})), "\xEF\xBF\xBD\xEF\xBF\xBD");
+  EXPECT_EQ(toString(fromUnits({0xDC00, 0xDFFF})), "\xEF\xBF\xBD\xEF\xBF\xBD");
+}
+
 TEST(TextConversion, ReplacesBytesThatAreNoUtf8) {
   EXPECT_OBJECT(toNSString("caf\xE9"), fromUnits(u"caf\uFFFD"));
   EXPECT_OBJECT(toNSString("\xC3\xA9\xC3"), fromUnits(u"\u00E9\uFFFD"));
