@@ -157,10 +157,9 @@ TEST(CalendarYears, AreTheSameFromManyThreads) {
   std::vector<int> wrong(4);
   for (int& count : wrong) {
     threads.emplace_back([&calendar, &count] {
-      for (int day = 0; day < 2000; ++day) {
-        const auto years = calendar.yearsBetween(instantAt(0), instantAt(day * 86400.0 * 20));
-        const auto expected = static_cast<std::int64_t>(day * 20 / 365.2425);
-        if (!years || std::abs(*years - expected) > 1) ++count;
+      for (int day = 0; day < 40'000; day += 20) {
+        const auto years = calendar.yearsBetween(instantAt(0), instantAt(day * 86400.0));
+        if (years != QDate(1970, 1, 1).addDays(day).year() - 1970) ++count;
       }
     });
   }

@@ -3,6 +3,8 @@
 #include <QStandardPaths>
 #include <gtest/gtest.h>
 
+#include "tests/desktop/own_language.h"
+
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   const bool hasDisplay =
@@ -10,6 +12,7 @@ int main(int argc, char** argv) {
   if (!hasDisplay) qputenv("QT_QPA_PLATFORM", "offscreen");
   QStandardPaths::setTestModeEnabled(true);  // keeps away from the user's own data
   QApplication application(argc, argv);
+  speakEnglish();
   QApplication::setApplicationName("qv_commons_tests");
   QApplication::setStyle("fusion");
   QApplication::setQuitOnLastWindowClosed(false);

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 #include <memory>
 
+#include "tests/desktop/own_language.h"
+
 namespace {
 
 class QtEnvironment : public testing::Environment {
@@ -11,6 +13,7 @@ class QtEnvironment : public testing::Environment {
   void SetUp() override {
     QApplication::setStyle("Fusion");
     application_ = std::make_unique<QApplication>(count_, arguments_);
+    speakEnglish();
     QFont font("Inter");
     const int pixels = qEnvironmentVariableIntValue("QV_COMMONS_TEST_FONT_PIXELS");
     font.setPixelSize(pixels > 0 ? pixels : 15);

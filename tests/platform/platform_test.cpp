@@ -16,6 +16,7 @@ TEST(CurrentPlatform, IsAFatalErrorWhereNoneIsInstalled) {
 TEST(CurrentPlatform, IsSwappedForAScopeAndPutBack) {
   const memory::MemoryPlatform outer;
   const memory::MemoryPlatform inner;
+  const ScopedPlatform before(inner.platform());  // leaves none installed for the next test
   installPlatform(outer.platform());
   EXPECT_EQ(&currentPlatform(), &outer.platform());
   {
