@@ -11,10 +11,15 @@ function(qv_compile_options target)
                            -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(${target} PUBLIC -fsanitize=${QV_COMMONS_SANITIZE})
   endif()
+endfunction()
+
+# Has counted which lines and branches of the library run, by clang's counters, which last where the
+# process is aborted.
+function(qv_count_coverage target)
   if(QV_COMMONS_COVERAGE)
-    # Only one compiler's counters fit into a program.
-    target_compile_options(${target} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:--coverage>)
-    target_link_options(${target} PUBLIC --coverage)
+    target_compile_options(${target} PRIVATE -fprofile-instr-generate -fcoverage-mapping
+                           "SHELL:-mllvm -runtime-counter-relocation")
+    target_link_options(${target} PUBLIC -fprofile-instr-generate)
   endif()
 endfunction()
 
@@ -27,6 +32,7 @@ function(qv_add_library name export)
     VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
     CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
   qv_compile_options(${name})
+  qv_count_coverage(${name})
   if(APPLE)  # an app or a framework that links them shows the public classes alone
     set_target_properties(${name} PROPERTIES OBJCXX_VISIBILITY_PRESET hidden)
   endif()

@@ -2,8 +2,11 @@
 
 # A test program with a QApplication whose font is of the usual size.
 function(qv_add_screen_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES")
-  qv_add_test(${name} desktop
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;THREADS;LIBRARIES")
+  if(arg_THREADS)
+    list(APPEND arg_THREADS qt_environment.cpp)
+  endif()
+  qv_add_test(${name} desktop THREADS ${arg_THREADS}
     SOURCES qt_environment.cpp ${arg_SOURCES}
     LIBRARIES qv_commons::desktop Qt6::Widgets Qt6::Test ICU::i18n ICU::uc ${arg_LIBRARIES}
     ENVIRONMENT QT_QPA_PLATFORM=offscreen)
@@ -11,8 +14,9 @@ function(qv_add_screen_test name)
 endfunction()
 
 qv_add_screen_test(user_defaults_test SOURCES user_defaults_test.cpp watched_sqlite.cpp
-                   LIBRARIES SQLite::SQLite3)
-qv_add_screen_test(calendar_test SOURCES calendar_fields_test.cpp calendar_test.cpp)
+                   THREADS user_defaults_test.cpp watched_sqlite.cpp LIBRARIES SQLite::SQLite3)
+qv_add_screen_test(calendar_test SOURCES calendar_fields_test.cpp calendar_test.cpp
+                   THREADS calendar_test.cpp)
 qv_add_screen_test(wheel_test SOURCES wheel_test.cpp)
 qv_add_screen_test(age_gate_test
   SOURCES age_gate_fixture.cpp
