@@ -4,7 +4,7 @@ core_packages=(g++ cmake ninja-build python3)
 desktop_packages=(qt6-base-dev qt6-tools-dev libqt6opengl6-dev libgmime-3.0-dev libicu-dev
   libsqlite3-dev pkg-config fonts-inter)
 tour_packages=(msmtp python3-aiosmtpd)
-test_packages=(git clang clang-format clang-tidy llvm libclang-rt-dev lcov libgtest-dev
+test_packages=(git clang clang-format clang-tidy llvm libclang-rt-dev libgtest-dev
   libgmock-dev libssl-dev locales tzdata xvfb dbus-daemon dpkg-dev file doxygen strace openbox xdotool
   weston qt6-wayland at-spi2-core python3-pyatspi
   fonts-dejavu-core fonts-lohit-deva fonts-wqy-microhei)
