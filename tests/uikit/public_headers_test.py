@@ -2,6 +2,7 @@
 
 import os
 import re
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -26,11 +27,11 @@ def check(condition, text):
         failures.append(text)
 
 
-def clang(source, *more, language='objective-c'):
+def clang(source, *more, language='objective-c', flags=FLAGS):
     with tempfile.NamedTemporaryFile('w', suffix='.m') as file:
         file.write(source)
         file.flush()
-        return subprocess.run([os.environ['QV_CLANG'], '-x', language, *FLAGS, *more, file.name],
+        return subprocess.run([os.environ['QV_CLANG'], '-x', language, *flags, *more, file.name],
                               capture_output=True, text=True, check=False)
 
 
@@ -50,6 +51,26 @@ def swift_names(tree):
         elif found := re.search(r'SwiftNameAttr .* "(.*)"', line):
             names[owner, selector] = found[1]
     return names
+
+
+def in_a_framework(headers):
+    """What the compiler says of the headers where they are a framework's."""
+    with tempfile.TemporaryDirectory() as folder:
+        framework = os.path.join(folder, 'QV_Commons_iOS.framework')
+        shutil.copytree(headers, os.path.join(framework, 'Headers'))
+        flags = [flag for flag in FLAGS if flag != '-I' + os.path.dirname(HEADERS)]
+        return clang('#import <QV_Commons_iOS/QV_Commons_iOS.h>\n', '-F' + folder,
+                     '-Wquoted-include-in-framework-header', flags=flags).stderr
+
+
+def check_framework():
+    check(not in_a_framework(HEADERS), f'as a framework: {in_a_framework(HEADERS)}')
+    with tempfile.TemporaryDirectory() as folder:
+        planted = os.path.join(folder, 'Headers')
+        shutil.copytree(HEADERS, planted)
+        with open(os.path.join(planted, 'QV_Links.h'), 'a', encoding='utf-8') as file:
+            file.write('#import "QV_Defines.h"\n')
+        check('double-quoted include' in in_a_framework(planted), 'a quoted include is not told')
 
 
 def main():
@@ -75,6 +96,7 @@ def main():
         result = clang(f'#import <QV_Commons_iOS/{name}>\n')
         check(result.returncode == 0, f'{name} does not compile alone:\n{result.stderr}')
 
+    check_framework()
     with tempfile.TemporaryDirectory() as cache:
         result = clang('@import QV_Commons_iOS;\nvoid f(void) { (void)[QV_Links privacyPolicy]; }\n',
                        '-fmodules', '-fmodules-cache-path=' + cache,
