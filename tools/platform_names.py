@@ -135,7 +135,10 @@ def _use(declaration):
         owner = _owner_name(declaration.semantic_parent)
         return Use('class-property' if of_class else 'property', owner, name, '-', since)
     if kind == Kind.ENUM_CONSTANT_DECL:
-        return Use('value', declaration.semantic_parent.spelling or '-', name,
+        enum = declaration.semantic_parent
+        # One without a name is spelled by its place since clang 16.
+        owner = '-' if not enum.spelling or enum.is_anonymous() else enum.spelling
+        return Use('value', owner, name,
                    str(declaration.enum_value), since)
     if kind == Kind.OBJC_INTERFACE_DECL:
         supers = [child.spelling for child in declaration.get_children()
