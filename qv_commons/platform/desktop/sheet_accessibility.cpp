@@ -138,6 +138,8 @@ void forget(QObject* object) {
 void installAccessibility() {
   QAccessible::removeFactory(make);
   QAccessible::installFactory(make);
+  // What a reader knows already of the host's windows is Qt's own.
+  for (QWidget* window : QApplication::topLevelWidgets()) forget(window);
 }
 
 void forgetCovered(QWidget& window) {
