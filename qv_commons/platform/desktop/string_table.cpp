@@ -1,9 +1,7 @@
 #include "qv_commons/platform/desktop/string_table.h"
 
 #include <QRegularExpression>
-
-#include "qv_commons/app_info/utf8.h"
-#include "qv_commons/platform/desktop/qt_text.h"
+#include <QStringDecoder>
 
 namespace qv_commons::desktop {
 namespace {
@@ -31,11 +29,13 @@ QString unescaped(const QString& written) {
 }  // namespace
 
 StringTable parseStringTable(std::string_view bytes) {
-  if (!isUtf8(bytes)) return {{}, "is not UTF-8"};
+  QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+  const QString text =
+      decoder.decode(QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())));
+  if (decoder.hasError()) return {{}, "is not UTF-8"};
   const QRegularExpression piece(
-      R"re([\s\x{feff}]+|/\*.*?\*/|//[^\n]*|"((?:[^"\\]|\\.)*+)"\s*=\s*"((?:[^"\\]|\\.)*+)"\s*;)re",
+      R"re(\s+|/\*.*?\*/|//[^\n]*|"((?:[^"\\]|\\.)*+)"\s*=\s*"((?:[^"\\]|\\.)*+)"\s*;)re",
       QRegularExpression::DotMatchesEverythingOption);
-  const QString text = fromUtf8(bytes);
   StringTable table;
   for (qsizetype place = 0; place < text.size();) {
     const QRegularExpressionMatch match =
