@@ -38,7 +38,6 @@ std::optional<std::string> optionalFile(const std::string& path) {
 int run(const std::string& folder, const std::string& program,
         const std::vector<std::string>& arguments) {
   const desktop::DesktopPlatform platform({.bundleDirectory = folder + "/bundle",
-                                           .languages = {"en"},
                                            .dataDirectory = folder + "/data",
                                            .sendmailProgram = program,
                                            .sendmailArguments = arguments,
