@@ -79,8 +79,15 @@ macos() {
 -isystem $(echo /usr/include/*-linux-musl) -D_GNU_SOURCE"
 }
 
-install_packages "${core_packages[@]}" "${other_packages[@]}"
+declare -A packages=(
+  [warnings]="clang-19"
+  [i686]="g++-i686-linux-gnu"
+  [armhf]="g++-arm-linux-gnueabihf"
+  [arm64]="googletest g++-aarch64-linux-gnu qemu-user"
+  [wasm32]="emscripten"
+  [macos]="clang-19 libc++-19-dev llvm musl-dev")
 if [ $# -eq 0 ]; then set -- warnings i686 armhf arm64 wasm32 macos; fi
 for target in "$@"; do
+  install_packages "${core_packages[@]}" ${packages[$target]}
   "$target"
 done

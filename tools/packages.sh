@@ -12,8 +12,6 @@ bench_packages=(libbenchmark-dev libfmt-dev libabsl-dev libssl-dev libglib2.0-de
 ios_packages=(clang libgnustep-base-dev clang-19 libc++-19-dev lld-19 musl-dev python3-clang
   python3-kiwisolver python3-pil)
 unpacked_packages=(libc++-15-dev libc++1-15 libc++abi1-15)  # a machine has one libc++ installed
-other_packages=(clang clang-19 libc++-19-dev llvm musl-dev googletest g++-i686-linux-gnu
-  g++-arm-linux-gnueabihf g++-aarch64-linux-gnu qemu-user emscripten)
 
 # Those that are neither installed nor provided by what is: names move into other packages between releases.
 missing_packages() {
