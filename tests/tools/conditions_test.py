@@ -1,0 +1,43 @@
+"""conditions says what it lacks, and in which environment a program runs."""
+import contextlib
+import io
+import os
+import sys
+import unittest
+from unittest import mock
+
+import tool
+
+conditions = tool.load("conditions")
+
+
+def outcome(*arguments):
+    """What it ends with, and what it says to that."""
+    said = io.StringIO()
+    with mock.patch.object(sys, "argv", ["conditions", *arguments]), contextlib.redirect_stderr(said):
+        try:
+            conditions.main()
+        except SystemExit as end:
+            return f"{end.code} {said.getvalue()}"
+    return ""
+
+
+class Conditions(unittest.TestCase):
+    def test_a_name_that_is_none_is_refused(self):
+        self.assertIn("no such condition: midnight", outcome("midnight"))
+
+    def test_what_is_missing_is_named(self):
+        with mock.patch.dict(os.environ, {"PATH": "/nowhere"}):
+            self.assertIn("package faketime", outcome("year-2038"))
+
+    def test_a_date_stands_before_the_command(self):
+        before, changed = conditions.made("leap-day", "/home")
+        self.assertEqual(before, ["faketime", "-f", "@2028-02-29 23:59:50"])
+        self.assertEqual((changed["TZ"], changed["HOME"]), ("Europe/Berlin", "/home"))
+
+    def test_home_is_taken_away(self):
+        self.assertEqual(conditions.made("without-home", "/home")[1]["HOME"], None)
+
+
+if __name__ == "__main__":
+    unittest.main()
