@@ -95,6 +95,19 @@ TEST_P(ScreensConformance, LoadOnceAndWhenTheyArePresented) {
   EXPECT_EQ(probe->loads, 1);
 }
 
+TEST_P(ScreensConformance, KnowWhoPresentsThemAndWhatTheyPresent) {
+  const auto probe = makeProbe();
+  EXPECT_EQ(probe->presentingViewController(), nullptr);
+  present(probe);
+  EXPECT_EQ(probe->presentingViewController(), host.get());
+  EXPECT_EQ(probe->childViewController(), nullptr);
+  const auto gate = QV_AgeGateViewController::create(platform());
+  probe->presentViewController(gate, true, nullptr);
+  adapter().settle();
+  EXPECT_EQ(probe->presentedViewController(), gate.get());
+  EXPECT_EQ(gate->presentingViewController(), probe.get());
+}
+
 TEST_P(ScreensConformance, ConnectOutletsOfThatNameAndClass) {
   const auto probe = makeProbe();
   present(probe);

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QTextBlock>
 #include <QTextCursor>
+#include <algorithm>
 
 #include "qv_commons/platform/desktop/link_text_view.h"
 #include "qv_commons/platform/desktop/qt_text.h"
@@ -63,26 +64,34 @@ QStringList tableNames(const QLocale& language) {
   return {name + "-" + script + "-" + region, name + "-" + region, name + "-" + script, name};
 }
 
+QLocale chooseLanguage(const std::vector<std::string>& languages,
+                       const std::function<bool(const QString& table)>& take) {
+  for (const std::string& each : languages) {
+    const QLocale language(fromUtf8(each));
+    const QStringList tables = tableNames(language);
+    if (std::any_of(tables.begin(), tables.end(), take)) return language;
+    if (language.language() == QLocale::English) break;
+  }
+  return QLocale::c();
+}
+
 ScreenWords findWords(const std::string& layout, const std::vector<std::string>& languages,
                       const std::function<void(const std::string&)>& report) {
   const QString path = QFile::decodeName(layout.c_str());
   const qsizetype folder = path.lastIndexOf('/') + 1;
   const QString screen = path.mid(folder).section('.', 0, 0);
-  for (const std::string& each : languages) {
-    const QLocale language(fromUtf8(each));
-    for (const QString& name : tableNames(language)) {
-      QFile file(path.left(folder) + name + ".lproj/" + screen + ".strings");
-      if (!file.open(QIODevice::ReadOnly)) continue;
-      StringTable table = parseStringTable(file.readAll().toStdString());
-      if (!table.problem.isEmpty()) {
-        report(toUtf8("the string table " + file.fileName() + " " + table.problem));
-      }
-      if (table.words.isEmpty()) return {};
-      return {language, std::move(table.words)};
-    }
-    if (language.language() == QLocale::English) return {};
+  QFile file;
+  const QLocale language = chooseLanguage(languages, [&](const QString& table) {
+    file.setFileName(path.left(folder) + table + ".lproj/" + screen + ".strings");
+    return file.open(QIODevice::ReadOnly);
+  });
+  if (!file.isOpen()) return {};
+  StringTable table = parseStringTable(file.readAll().toStdString());
+  if (!table.problem.isEmpty()) {
+    report(toUtf8("the string table " + file.fileName() + " " + table.problem));
   }
-  return {};
+  if (table.words.isEmpty()) return {};
+  return {language, std::move(table.words)};
 }
 
 void applyWords(QWidget& screen, const ScreenWords& words) {

@@ -17,6 +17,11 @@ namespace qv_commons::desktop {
 // zh-Hant and zh. Empty for what is no language.
 QStringList tableNames(const QLocale& language);
 
+// The first of the user's languages of which `take`, given the names of its tables, takes one; C if
+// none is taken before English, which everything is in.
+QLocale chooseLanguage(const std::vector<std::string>& languages,
+                       const std::function<bool(const QString& table)>& take);
+
 struct ScreenWords {
   QLocale language = QLocale::c();  // C: the layout's own
   QHash<QString, QString> words;    // by key

@@ -31,13 +31,9 @@ QLocale Words::locale() const {
 void Words::load() const {
   isLoaded_ = true;
   linkTranslations();
-  for (const std::string& each : preferredLanguages(settings_)) {
-    const QLocale language(fromUtf8(each));
-    for (const QString& name : tableNames(language)) {
-      if (translator_.load(":/qv_commons/translations/" + name + ".qm")) return;
-    }
-    if (language.language() == QLocale::English) return;
-  }
+  chooseLanguage(preferredLanguages(settings_), [this](const QString& table) {
+    return translator_.load(":/qv_commons/translations/" + table + ".qm");
+  });
 }
 
 }  // namespace qv_commons::desktop
