@@ -14,7 +14,7 @@ function(qv_add_screen_test name)
 endfunction()
 
 qv_add_screen_test(user_defaults_test SOURCES user_defaults_test.cpp watched_sqlite.cpp
-                   THREADS user_defaults_test.cpp watched_sqlite.cpp LIBRARIES SQLite::SQLite3)
+                   LIBRARIES SQLite::SQLite3)
 qv_add_screen_test(calendar_test SOURCES calendar_fields_test.cpp calendar_test.cpp
                    THREADS calendar_test.cpp)
 qv_add_screen_test(wheel_test SOURCES wheel_test.cpp)

@@ -12,6 +12,21 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
+// Calls back when the body can't be changed any more, as in sending and in saving.
+class WhenLocked final : public QObject {
+ public:
+  explicit WhenLocked(std::function<void()> callback) : callback_(std::move(callback)) {
+    QCoreApplication::instance()->installEventFilter(this);
+  }
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::ReadOnlyChange && watched->objectName() == "body") callback_();
+    return false;
+  }
+
+ private:
+  std::function<void()> callback_;
+};
+
 class ComposerPreparing : public ComposerTest {
  protected:
   // A composer whose attachment comes when the test lets it.
@@ -29,6 +44,7 @@ class ComposerPreparing : public ComposerTest {
         },
         [this, composer = composer_.get()] {
           ++attached_;
+          EXPECT_NE(worker_, std::thread::id());  // not before
           EXPECT_EQ(std::this_thread::get_id(), main_);
           composer->addAttachment({"Zm9v", "Text/XML", "Receipt-Data.txt"});
         });
@@ -120,12 +136,9 @@ TEST_F(ComposerPreparing, KeepsTextAndAttachmentWhereThePlatformGoes) {
   press(*composer_, Qt::Key_X);
   composer_.reset();
   screen_.reset();
-  std::thread other([&] {
-    std::this_thread::sleep_for(std::chrono::milliseconds(50));
-    letCome();
-  });
+  const WhenLocked locked([this] { letCome(); });
   desktop_.reset();
-  other.join();
+  EXPECT_TRUE(hasCome_);
   EXPECT_THAT(onlyDraft(), HasSubstr("\n\nReason:\nx\nApp: x\n"));
   EXPECT_THAT(onlyDraft(), HasSubstr("\n\nWm05dg==\n"));
 }

@@ -1,5 +1,9 @@
 // What becomes of a message that the user sends, saves or cancels.
+#include <fcntl.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
+
+#include "qv_commons/platform/desktop/file_descriptor.h"
 
 #include "tests/desktop/composer_fixture.h"
 #include "tests/support_code/sanitized.h"
@@ -11,6 +15,23 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
+
+// What a program waits at until the test lets it go on.
+class Gate {
+ public:
+  explicit Gate(std::string path) : path_(std::move(path)), pipe_(openPipe(path_)) {}
+  std::string wait() const { return "read go <\"" + path_ + "\""; }
+  void open() const { EXPECT_TRUE(writeAll(pipe_, "\n")); }
+
+ private:
+  static int openPipe(const std::string& path) {
+    EXPECT_EQ(::mkfifo(path.c_str(), S_IRUSR | S_IWUSR), 0);
+    return ::open(path.c_str(), O_RDWR | O_CLOEXEC);
+  }
+
+  std::string path_;
+  FileDescriptor pipe_;
+};
 
 class ComposerSending : public ComposerTest {
  protected:
@@ -30,6 +51,8 @@ class ComposerSending : public ComposerTest {
     EXPECT_FALSE(find<QPlainTextEdit>(*composer_, "body").isReadOnly());
     EXPECT_THAT(onlyDraft(), HasSubstr("\n\nReason:\nx\nApp: x\n"));
   }
+
+  Gate gate_{folder_.path("gate")};
 };
 
 TEST_F(ComposerSending, HandsTheMessageToTheMailProgram) {
@@ -62,7 +85,7 @@ TEST_F(ComposerSending, SendsWhatTheUserMadeOfTheMessage) {
 
 TEST_F(ComposerSending, SaysThatItSendsAndSendsOnce) {
   useMailProgram("cat >>\"" + folder_.path("sent") + "\"; echo run >>\"" + folder_.path("runs") +
-                 "\"; sleep 0.5");
+                 "\"; " + gate_.wait());
   open();
   click(*composer_, "send");
   EXPECT_EQ(noticeText(), "Sending…");
@@ -77,6 +100,7 @@ TEST_F(ComposerSending, SaysThatItSendsAndSendsOnce) {
   press(*composer_, Qt::Key_Escape);
   settle();
   EXPECT_TRUE(isOpen());
+  gate_.open();
   ASSERT_TRUE(waitUntil([&] { return !isOpen(); })) << noticeText();
   EXPECT_EQ(readFile(folder_.path("runs")), "run\n");
   EXPECT_THAT(delegate_->results, ElementsAre(MailComposeResult::sent));
@@ -259,10 +283,11 @@ TEST_F(ComposerSending, SaysWhyADraftCannotBeSaved) {
 
 TEST_F(ComposerSending, SendsWhereNoCopyCanBeKept) {
   folder_.write("data", "a file in the folder's place");
-  useMailProgram("cat >\"" + folder_.path("sent") + "\"; sleep 0.3");
+  useMailProgram("cat >\"" + folder_.path("sent") + "\"; " + gate_.wait());
   open();
   click(*composer_, "send");
   ASSERT_TRUE(waitForNotice("Sending… No copy is kept: The folder " + folder_.path("data")));
+  gate_.open();
   ASSERT_TRUE(waitUntil([&] { return !isOpen(); })) << noticeText();
   EXPECT_THAT(readFile(folder_.path("sent")), HasSubstr("\n\nReason:\n\nApp: x\n"));
   EXPECT_THAT(delegate_->results, ElementsAre(MailComposeResult::sent));
@@ -325,12 +350,13 @@ TEST_F(ComposerSending, GoesByItselfWhereItsDelegateIsGone) {
 }
 
 TEST_F(ComposerSending, CarriesOnWhileAnotherComposerIsOpenAbove) {
-  useMailProgram("cat >\"" + folder_.path("sent") + "\"; sleep 0.3");
+  useMailProgram("cat >\"" + folder_.path("sent") + "\"; " + gate_.wait());
   open();
   click(*composer_, "send");
   const auto above = desktop_->platform().viewControllers.makeMailComposer();
   screen_->presentViewController(above, true, nullptr);
   settle();
+  gate_.open();
   ASSERT_TRUE(waitUntil([&] { return !isOpen(); }));
   EXPECT_THAT(delegate_->results, ElementsAre(MailComposeResult::sent));
   EXPECT_TRUE(isOnScreen(*above));

@@ -11,7 +11,6 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
-#include <thread>
 #include <unistd.h>
 
 #include "qv_commons/platform/desktop/sqlite_user_defaults.h"
@@ -277,12 +276,14 @@ TEST_F(UserDefaultsTest, TryAgainToReadWhatIsFreeAMomentLater) {
   refuse();
   fs::remove(copy());
   std::optional<Holder> holder(file());
-  std::thread release([&] {
-    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+  WatchedSqlite watched;
+  int attempts = 0;
+  watched.setOnBusy([&] {
+    ++attempts;
     holder.reset();
   });
   EXPECT_TRUE(start()->boolForKey(kBlocked));
-  release.join();
+  EXPECT_EQ(attempts, 1);  // in vain
   EXPECT_THAT(errors_, IsEmpty());
 }
 

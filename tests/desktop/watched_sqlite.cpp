@@ -14,6 +14,7 @@ FileTraffic seen;
 std::vector<std::string> run;
 int fatalChange = -1;
 std::function<void(int)> duringPause;
+std::function<void()> whenBusy;
 sqlite3_vfs* real = nullptr;
 sqlite3_vfs watching;
 sqlite3_io_methods methods;
@@ -39,13 +40,18 @@ void change() {
   }
 QV_FORWARD(Close, (sqlite3_file * file), (actual))
 QV_FORWARD(FileSize, (sqlite3_file * file, sqlite3_int64* size), (actual, size))
-QV_FORWARD(Lock, (sqlite3_file * file, int level), (actual, level))
 QV_FORWARD(Unlock, (sqlite3_file * file, int level), (actual, level))
 QV_FORWARD(CheckReservedLock, (sqlite3_file * file, int* result), (actual, result))
 QV_FORWARD(FileControl, (sqlite3_file * file, int operation, void* data), (actual, operation, data))
 QV_FORWARD(SectorSize, (sqlite3_file * file), (actual))
 QV_FORWARD(DeviceCharacteristics, (sqlite3_file * file), (actual))
 #undef QV_FORWARD
+
+int Lock(sqlite3_file* file, int level) {
+  const int code = actualOf(file)->pMethods->xLock(actualOf(file), level);
+  if (code == SQLITE_BUSY && whenBusy) whenBusy();
+  return code;
+}
 
 int Read(sqlite3_file* file, void* data, int size, sqlite3_int64 offset) {
   ++seen.reads;
@@ -134,6 +140,7 @@ WatchedSqlite::~WatchedSqlite() {
   sqlite3_vfs_unregister(&watching);
   sqlite3_vfs_register(real, 1);
   duringPause = nullptr;
+  whenBusy = nullptr;
 }
 
 FileTraffic WatchedSqlite::traffic() const {
@@ -146,6 +153,10 @@ std::vector<std::string> WatchedSqlite::statements() const {
 
 void WatchedSqlite::setOnPause(std::function<void(int)> onPause) {
   duringPause = std::move(onPause);
+}
+
+void WatchedSqlite::setOnBusy(std::function<void()> onBusy) {
+  whenBusy = std::move(onBusy);
 }
 
 void WatchedSqlite::killAtChange(int number) {

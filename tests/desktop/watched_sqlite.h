@@ -29,6 +29,9 @@ class WatchedSqlite {
   // Called in each pause, with its number, from 1.
   void setOnPause(std::function<void(int)> onPause);
 
+  // Called whenever a file can't be had because somebody else holds it.
+  void setOnBusy(std::function<void()> onBusy);
+
   // Kills this process with SIGKILL just before the change of that number, from 0.
   void killAtChange(int number);
 };
