@@ -1,6 +1,6 @@
 #!/usr/bin/python3
-"""Both screens in every language, laid out by a constraint solver: nothing is clipped or overlaps, and no word is
-broken, from the smallest phone to the largest tablet, at the usual text size and at twice that.
+"""Both screens in every language, laid out in its direction by a constraint solver: nothing is clipped or overlaps, and
+no word is broken, from the smallest phone to the largest tablet, at the usual text size and at twice that.
 
     tests/uikit/xib_languages_test.py --table      prints how much room the tightest word of a screen has left in its
                                                    line, in points
@@ -29,6 +29,7 @@ from screen_texts import FILLER, parse_strings  # noqa: E402
 TEXT_SIZES = ('L', 'AX2')  # of 17 and of 33 points
 # A line may end after any character of theirs.
 WITHOUT_BLANKS = ('ja', 'ko', 'zh-Hans', 'zh-Hant')
+FROM_RIGHT_TO_LEFT = ('ar', 'he')
 PLACES = {'text': ('.', 'text'), 'normalTitle': ("state[@key='normal']", 'title'),
           'accessibilityLabel': ('accessibility', 'label')}
 
@@ -53,13 +54,16 @@ def margin(layout, language):
     return min(left(id, content) for id, content in layout.contents.items() if content.font)
 
 
+def lay_out(found, device, size, is_reversed):
+    return Layout(found, device, size, lambda shown: shown.replace('[APPNAME]', 'Lantern'), is_reversed)
+
+
 def every_layout(language):
     for screen in SCREENS:
         for device in DEVICES:
             for size in TEXT_SIZES:
-                layout = Layout(document(screen, language), device, size,
-                                lambda shown: shown.replace('[APPNAME]', 'Lantern'))
-                yield screen, device, size, layout
+                yield screen, device, size, lay_out(document(screen, language), device, size,
+                                                    language in FROM_RIGHT_TO_LEFT)
 
 
 class XibLanguages(unittest.TestCase):
@@ -74,6 +78,29 @@ class XibLanguages(unittest.TestCase):
         long = document(SCREENS[0], 'de')
         long.items['header'].element.set('text', 'Wie lautet Ihr Geburtsdatum?')
         self.assertLess(margin(Layout(long, DEVICES[0], 'AX2'), 'de'), 0)
+
+    def test_from_right_to_left_each_layout_is_the_mirror_image(self):
+        for language in FROM_RIGHT_TO_LEFT:
+            for screen, device, size, layout in every_layout(language):
+                plain = lay_out(document(screen, language), device, size, False)
+                for id, frame in layout.frames.items():
+                    with self.subTest(language, screen=screen, device=device.name, size=size, id=id):
+                        self.assertAlmostEqual(frame.left, device.width - plain.frames[id].right, 2)
+                        self.assertAlmostEqual(frame.top, plain.frames[id].top, 2)
+
+    def test_from_right_to_left_lines_begin_at_the_right(self):
+        small = lay_out(document(SCREENS[0], 'ar'), DEVICES[0], 'L', True).frames
+        self.assertAlmostEqual(small['panel'].right - small['header'].right, 24, 2)
+        low = lay_out(document(SCREENS[0], 'ar'), DEVICES[3], 'L', True).frames
+        self.assertLessEqual(low['picker'].right, low['header'].left)
+
+    def test_from_right_to_left_a_place_from_the_middle_stays_as_it_is(self):
+        moved = document(SCREENS[0], 'ar')
+        for _, constraint in moved.all_constraints():
+            if constraint.id == 'panel-centre-x':
+                constraint.element.set('constant', '20')
+        panel = lay_out(moved, DEVICES[5], 'L', True).frames['panel']
+        self.assertAlmostEqual(panel.left, 512 + 20 - 280, 2)
 
     def test_the_words_are_the_languages(self):
         self.assertEqual(document(SCREENS[0], 'de').items['confirm'].element.find('state').get('title'), 'Bestätigen')

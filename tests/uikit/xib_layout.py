@@ -86,11 +86,12 @@ class Content:
 class Layout:
     """The solved layout: `frames` by item id in the device's points, `undetermined` names.
 
-    `texts` turns a text of the file into the one shown (the app's name filled in, say).
+    `texts` turns a text of the file into the one shown (the app's name filled in, say);
+    `is_reversed` is for languages that are written from right to left.
     """
 
-    def __init__(self, document, device, content_size='L', texts=lambda text: text):
-        self.document, self.device = document, device
+    def __init__(self, document, device, content_size='L', texts=lambda text: text, is_reversed=False):
+        self.document, self.device, self.is_reversed = document, device, is_reversed
         self.contents = {item.id: Content(item, content_size, texts)
                          for item in document.items.values()
                          if item.kind in ('label', 'textView', 'button', 'datePicker')}
@@ -112,25 +113,31 @@ class Layout:
     def _relations(self, widths):
         relations = list(self._given())
         for constraint in self.document.constraints(self.device.size_class):
+            attributes = {constraint.first_attribute, constraint.second_attribute}
+            # As the platform does it: of the others, a constant keeps its direction.
+            is_mirrored = self.is_reversed and not attributes.isdisjoint({'leading', 'trailing'})
             right = constraint.constant
             if constraint.second:
                 right = right + constraint.multiplier * self._attribute(
-                    constraint.second, constraint.second_attribute)
-            left = self._attribute(constraint.first, constraint.first_attribute)
+                    constraint.second, constraint.second_attribute, is_mirrored)
+            left = self._attribute(constraint.first, constraint.first_attribute, is_mirrored)
             relations.append(Relation(constraint.id, left - right, constraint.relation,
                                       constraint.priority))
         for content in self.contents.values():
             relations += self._wishes(content, content.size(widths[content.item.id]))
         return relations
 
-    def _attribute(self, id, attribute):
-        """As a linear expression, in a language written from left to right."""
+    def _attribute(self, id, attribute, is_mirrored):
+        """As a linear expression, in which x grows to the left where it is mirrored."""
         item = self._variables[id]
+        left, right = item['left'] * 1, item['left'] + item['width']
+        if is_mirrored:
+            left, right = -1 * right, -1 * left
         return {
-            'leading': item['left'] * 1, 'top': item['top'] * 1,
+            'leading': left, 'top': item['top'] * 1,
             'width': item['width'] * 1, 'height': item['height'] * 1,
-            'trailing': item['left'] + item['width'], 'bottom': item['top'] + item['height'],
-            'centerX': item['left'] + item['width'] * 0.5,
+            'trailing': right, 'bottom': item['top'] + item['height'],
+            'centerX': (left + right) * 0.5,
             'centerY': item['top'] + item['height'] * 0.5,
         }[attribute]
 
