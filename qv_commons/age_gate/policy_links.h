@@ -26,6 +26,10 @@ inline constexpr TextRange kPrivacyLinkRange = {0, 14};
 inline constexpr TextRange kTermsOfServiceLinkRange = {17, 16};
 inline constexpr TextRange kContactLinkRange = {38, 22};
 
+// What fills the words of a link up to its range, in languages that say it in fewer letters: WORD
+// JOINER, which has no width, and no line ends at it. Adapters leave it out of what is copied.
+inline constexpr char16_t kLinkFiller = u'\u2060';
+
 // The value of the contact link.
 inline constexpr std::string_view kContactLink = "mailto";
 

@@ -1,4 +1,6 @@
 // The screens in the user's language: string tables in the resource bundle, found by the platform.
+#import "qv_commons/platform/uikit/uikit_text_view.h"
+
 #import "tests/uikit/age_gate_fixture.h"
 
 namespace {
@@ -47,6 +49,32 @@ TEST_F(UIKitLanguages, RefuseInTheUsersLanguage) {
   EXPECT_OBJECT(linkAt(refusal().tos, 17), @"服務條款");
   EXPECT_EQ([refusal().header.text rangeOfString:@"很抱歉，您無法使用「"].location, 0u);
   EXPECT_EQ([refusal().header.text rangeOfString:@"[APPNAME]"].location, NSNotFound);
+}
+
+// What the user gets of the text that is selected, by the menu's Copy.
+NSString* copied(UITextView* text, NSRange selected) {
+  text.selectedRange = selected;
+  [text copy:nil];
+  return UIPasteboard.generalPasteboard.string;
+}
+
+TEST_F(UIKitLanguages, FillLinksWithWhatIsNeverCopied) {
+  QV_AgeGateViewController* screen = gateIn(@[ @"de" ]);
+  UITextView* text = screen.tos;
+  EXPECT_NE([text.text rangeOfString:@"\u2060"].location, NSNotFound);
+  EXPECT_OBJECT(copied(text, NSMakeRange(0, text.text.length)), @"Datenschutz & Nutzungsregeln");
+  EXPECT_OBJECT(copied(text, NSMakeRange(5, 9)), @"schutz");
+  EXPECT_OBJECT(copied(text, NSMakeRange(0, 0)), @"");
+}
+
+TEST_F(UIKitLanguages, FillTheContactLinkWithWhatIsNeverCopied) {
+  setFlag(@"QV_AgeGate_Shown");
+  setFlag(@"QV_AgeGate_Blocked");
+  [NSUserDefaults setUserLanguages:@[ @"de" ]];
+  start();
+  UITextView* text = refusal().contact;
+  EXPECT_OBJECT(copied(text, NSMakeRange(0, text.text.length)),
+                @"Falls das ein Irrtum ist, bitte den Support kontaktieren.");
 }
 
 TEST_F(UIKitLanguages, StayInEnglishForAUserOfEnglish) {

@@ -62,7 +62,8 @@ def reference_problems(document):
         for element in item.element.findall('variation/mask/*'):
             if element.get('reference') not in own:
                 yield f'variation of {item.id} names {element.get("reference")}, not its own'
-        if item.element.get('customClass'):
+        own = 'QV_LinkTextView' if item.kind == 'textView' else None
+        if item.element.get('customClass') != own:
             yield f'{item.id} has the class {item.element.get("customClass")}'
 
 
@@ -172,6 +173,8 @@ class XibReferences(unittest.TestCase):
                 ('<exclude reference="tall-picker-top"', '<exclude reference="scroll-top"',
                  'variation of panel names scroll-top, not its own'),
                 ('customClass="QV_AgeGateViewController"', 'customClass="QV_AgeGate"', 'owner is QV_AgeGate'),
+                (' customClass="QV_LinkTextView"', '', 'policies has the class None'),
+                ('id="confirm"', 'id="confirm" customClass="Button"', 'confirm has the class Button'),
                 ('property="confirmBtn"', 'property="confirmButton"', 'outlets are'),
                 ('property="bg" destination="panel"', 'property="bg" destination="header"', 'outlets are'),
                 ('"onDateChanged:"', '"onDateChanged"', 'actions are'),

@@ -6,6 +6,14 @@ using standin::note;
 NSAttributedStringKey const NSForegroundColorAttributeName = @"NSColor";
 NSAttributedStringKey const NSLinkAttributeName = @"NSLink";
 
+@implementation UIPasteboard
+@synthesize string = _string;
++ (UIPasteboard*)generalPasteboard {
+  static UIPasteboard* const general = [UIPasteboard new];
+  return general;
+}
+@end
+
 @implementation UITextView
 @synthesize delegate = _delegate;
 @synthesize attributedText = _attributedText;
@@ -13,6 +21,7 @@ NSAttributedStringKey const NSLinkAttributeName = @"NSLink";
 @synthesize textColor = _textColor;
 @synthesize editable = _editable;
 @synthesize selectable = _selectable;
+@synthesize selectedRange = _selectedRange;
 - (instancetype)init {
   if ((self = [super init])) {
     _attributedText = [NSAttributedString new];
@@ -48,6 +57,9 @@ NSAttributedStringKey const NSLinkAttributeName = @"NSLink";
   [text removeAttribute:NSForegroundColorAttributeName range:all];
   if (color != nil) [text addAttribute:NSForegroundColorAttributeName value:color range:all];
   _attributedText = [text copy];
+}
+- (void)copy:(id)sender {
+  UIPasteboard.generalPasteboard.string = [self.text substringWithRange:_selectedRange];
 }
 - (void)setDelegate:(id<UITextViewDelegate>)delegate {
   note(@"%@ setDelegate:%@", nameOf(self), nameOf(delegate));

@@ -7,6 +7,8 @@
 #include <QTextBrowser>
 #include <vector>
 
+#include "qv_commons/age_gate/policy_links.h"
+
 namespace qv_commons::desktop {
 
 class LinkTextView final : public QTextBrowser {
@@ -20,8 +22,8 @@ class LinkTextView final : public QTextBrowser {
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
 
-  // What fills a link's words up to the link's range: without width, and no line ends at it.
-  static constexpr QChar kFiller = QChar(0x2060);
+  // What fills a link's words up to the link's range.
+  static constexpr QChar kFiller = QChar(kLinkFiller);
 
   // The text without fillers, as it is seen, heard and copied.
   QString seenText() const;

@@ -1,5 +1,6 @@
 #import "qv_commons/platform/uikit/uikit_text_view.h"
 
+#include "qv_commons/age_gate/policy_links.h"
 #include "qv_commons/platform/layout_screen.h"
 #import "qv_commons/platform/uikit/text.h"
 #import "qv_commons/platform/uikit/uikit_controller.h"
@@ -18,6 +19,15 @@
                   inRange:(NSRange)range
               interaction:(UITextItemInteraction)interaction {
   return qv_commons::uikit::shouldInteract(*delegate, textView, URL, range);
+}
+@end
+
+@implementation QV_LinkTextView
+- (void)copy:(id)sender {
+  const unichar filler = qv_commons::kLinkFiller;
+  UIPasteboard.generalPasteboard.string = [[self.text substringWithRange:self.selectedRange]
+      stringByReplacingOccurrencesOfString:[NSString stringWithCharacters:&filler length:1]
+                                withString:@""];
 }
 @end
 

@@ -23,6 +23,11 @@ typedef NS_ENUM(NSInteger, UITextItemInteraction) {
               interaction:(UITextItemInteraction)interaction;
 @end
 
+@interface UIPasteboard : NSObject
+@property(class, nonatomic, readonly) UIPasteboard* generalPasteboard;
+@property(nonatomic, copy, nullable) NSString* string;
+@end
+
 @interface UITextView : UIScrollView
 @property(nonatomic, weak, nullable) id<UITextViewDelegate> delegate;
 @property(nonatomic, copy, null_resettable) NSString* text;
@@ -32,6 +37,7 @@ typedef NS_ENUM(NSInteger, UITextItemInteraction) {
 @property(nonatomic, strong, nullable) UIColor* textColor;
 @property(nonatomic, getter=isEditable) BOOL editable;
 @property(nonatomic, getter=isSelectable) BOOL selectable;
+@property(nonatomic) NSRange selectedRange;
 @end
 
 NS_ASSUME_NONNULL_END

@@ -4,7 +4,12 @@
 
 NS_ASSUME_NONNULL_BEGIN
 
-@interface UIResponder : NSObject
+@protocol UIResponderStandardEditActions <NSObject>
+@optional
+- (void)copy:(nullable id)sender;
+@end
+
+@interface UIResponder : NSObject <UIResponderStandardEditActions>
 @end
 
 @interface CALayer : NSObject
