@@ -67,7 +67,7 @@ TEST(PrivateFolder, IsForTheUserAloneWithAllThatIsMissingAboveIt) {
 TEST(PrivateFolder, SaysWhyItCannotBeMade) {
   const TestFolder folder;
   folder.write("a", "a file in the folder's place");
-  EXPECT_EQ(makePrivateFolder(folder.path("a/b")),
+  EXPECT_EQ(saidOf(makePrivateFolder(folder.path("a/b"))),
             "The folder " + folder.path("a") + " can't be made: Not a directory.");
 }
 

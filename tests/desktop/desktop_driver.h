@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "qv_commons/platform/desktop/desktop_platform.h"
+#include "qv_commons/platform/desktop/outcome.h"
 #include "qv_commons/platform/view_controllers.h"
 
 namespace qv_commons::desktop {
@@ -33,6 +34,10 @@ class TestFolder {
 };
 
 std::string readFile(const std::string& path);
+
+inline std::string saidOf(const Failure& failure) {
+  return failure ? inEnglish(*failure) : "nothing";
+}
 
 // What a controller shows: its sheet's content, or a host's window.
 QWidget& windowOf(ViewController& controller);

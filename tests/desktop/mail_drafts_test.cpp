@@ -51,14 +51,14 @@ TEST(MailDrafts, GetOverWhatAKilledWriterLeftBehind) {
 TEST(MailDrafts, SayWhyTheirFolderCannotBeMade) {
   const TestFolder folder;
   folder.write("data", "a file in the folder's place");
-  EXPECT_EQ(keep(folder.path("data/drafts"), "1.eml", "x"),
+  EXPECT_EQ(saidOf(keep(folder.path("data/drafts"), "1.eml", "x")),
             "The folder " + folder.path("data") + " can't be made: Not a directory.");
 }
 
 TEST(MailDrafts, LeaveTheOldOneWhereTheNewOneCannotTakeItsPlace) {
   const TestFolder folder;
   folder.write("drafts/1.eml/inside", "old");
-  EXPECT_EQ(keep(folder.path("drafts"), "1.eml", "new"),
+  EXPECT_EQ(saidOf(keep(folder.path("drafts"), "1.eml", "new")),
             folder.path("drafts/1.eml") + " can't be written: Is a directory.");
   EXPECT_THAT(folder.list("drafts"), ElementsAre("1.eml"));
   EXPECT_EQ(readFile(folder.path("drafts/1.eml/inside")), "old");
@@ -128,7 +128,7 @@ TEST(MailDrafts, ComeBackAsTheyWere) {
                          [&](const MailSink& sink) { return writeMailMessage(message, sink); }),
               std::nullopt);
     const Result<MailMessage> read = readDraft(folder.path("drafts/1.eml"));
-    ASSERT_TRUE(read.value) << read.failure;
+    ASSERT_TRUE(read.value) << saidOf(read.failure);
     EXPECT_EQ(read.value->recipients, message.recipients);
     EXPECT_EQ(read.value->subject, message.subject);
     EXPECT_EQ(read.value->body, message.body);
@@ -140,8 +140,8 @@ TEST(MailDrafts, ComeBackAsTheyWere) {
       EXPECT_EQ(read.value->attachments[i]->mimeType, message.attachments[i]->mimeType);
     }
   }
-  EXPECT_EQ(readDraft(folder.path("none")).failure,
-            folder.path("none") + ": No such file or directory.");
+  EXPECT_EQ(saidOf(readDraft(folder.path("none")).failure),
+            folder.path("none") + " can't be read: No such file or directory.");
 }
 
 }  // namespace

@@ -26,7 +26,7 @@ class HandedMails : public testing::Test {
  protected:
   HandedMail handed(const MailMessage& message) const {
     const Result<HandedMail> mail = makeHandedMail(message, folder_.path("files"), "1", false);
-    EXPECT_TRUE(mail.value) << mail.failure;
+    EXPECT_TRUE(mail.value) << saidOf(mail.failure);
     return mail.value.value_or(HandedMail{});
   }
 
@@ -93,7 +93,7 @@ TEST_F(HandedMails, LeaveNothingWhereTheyAreStopped) {
 
 TEST_F(HandedMails, SayWhyTheirFilesCannotBeWritten) {
   folder_.write("files", "a file in the folder's place");
-  EXPECT_EQ(makeHandedMail(messageWith("x"), folder_.path("files"), "1", false).failure,
+  EXPECT_EQ(saidOf(makeHandedMail(messageWith("x"), folder_.path("files"), "1", false).failure),
             "The folder " + folder_.path("files") + " can't be made: Not a directory.");
 }
 

@@ -32,7 +32,7 @@ std::string bytesOf(const MailMessage& message) {
 
 std::string problemOf(const MailMessage& message) {
   const std::optional<MailProblem> problem = findProblem(message);
-  return problem ? problem->sentence : "";
+  return problem ? inEnglish(problem->sentence) : "";
 }
 
 SharedAttachment attachment(MailAttachment file) {

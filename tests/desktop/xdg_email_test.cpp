@@ -143,7 +143,7 @@ TEST_F(XdgEmails, IsTheMailProgramWhereItDoesNotComeBack) {
   std::vector<MailHandOver::Outcome> outcomes;
   auto attempt = std::make_unique<XdgEmail>(
       HandedMail{{"a@example.com"}, "", "", {}},
-      [&](MailHandOver::Outcome outcome, const std::string&) { outcomes.push_back(outcome); },
+      [&](MailHandOver::Outcome outcome, const Failure&) { outcomes.push_back(outcome); },
       std::chrono::milliseconds(300));
   ASSERT_TRUE(waitUntil([&] { return !outcomes.empty(); }));
   EXPECT_THAT(outcomes, ElementsAre(MailHandOver::Outcome::opened));

@@ -312,7 +312,8 @@ void ComposerWindow::setPhase(Phase phase) {
   if (phase == Phase::saved) cancel_->setFocus();
 }
 
-void ComposerWindow::showNotice(const QString& text, Severity severity) {
+void ComposerWindow::showNotice(const Sentence& sentence, Severity severity) {
+  const QString text = words_(sentence);
   notice_->setProperty("role", severity == Severity::error ? "error" : "notice");
   notice_->style()->polish(notice_);
   notice_->document()->setDefaultFont(notice_->font());

@@ -69,7 +69,7 @@ class ComposerWindow final : public QWidget {
   // Lines above the fields that can be selected, read out by screen readers; `field` takes the
   // keyboard.
   enum class Severity : std::uint8_t { info, error };
-  void showNotice(const QString& text, Severity severity);
+  void showNotice(const Sentence& sentence, Severity severity);
   void hideNotice();
 
   // How far the work is, from 0 to 1.

@@ -123,15 +123,16 @@ void DesktopComposer::onPrepared() {
   if (isOver_) release();
 }
 
-void DesktopComposer::whenWhole(const QString& notice, std::function<void()> action) {
+void DesktopComposer::whenWhole(const Sentence& notice, std::function<void()> action) {
   window_.setPhase(Phase::sending);
   window_.showNotice(notice, Severity::info);
   if (!preparation_.isRunning()) return action();
   waiting_ = std::move(action);
 }
 
-void DesktopComposer::write(const QString& notice, MailOutput::Use use,
-                            std::function<void()> done) {
+void DesktopComposer::write(MailOutput::Use use, std::function<void()> done) {
+  const bool isKept = use == MailOutput::Use::keep;
+  const Sentence notice = isKept ? Sentence("Saving…") : Sentence("Sending…");
   whenWhole(notice, [this, use, done = std::move(done)] { startWriting(use, done); });
 }
 
@@ -159,12 +160,12 @@ void DesktopComposer::hideProgress() {
 }
 
 void DesktopComposer::save() {
-  write("Saving…", MailOutput::Use::keep, [this] {
-    if (output_->wasStopped()) return edit("Not saved. Saving was stopped.");
-    if (output_->failure()) return edit("Not saved. " + *output_->failure());
+  write(MailOutput::Use::keep, [this] {
+    if (output_->wasStopped()) return edit(Sentence("Not saved. Saving was stopped."));
+    if (output_->failure()) return editUnsaved();
     isSaved_ = true;
     window_.setPhase(Phase::saved);
-    window_.showNotice(fromUtf8("Saved to " + draftPath()), Severity::info);
+    window_.showNotice(Sentence("Saved to %1", {draftPath()}), Severity::info);
   });
 }
 
@@ -175,20 +176,32 @@ void DesktopComposer::unlock() {
   window_.hideNotice();
 }
 
-void DesktopComposer::edit(const std::string& notice) {
+void DesktopComposer::edit(const Sentence& notice) {
   unlock();
-  window_.showNotice(fromUtf8(notice), Severity::error);
+  window_.showNotice(notice, Severity::error);
+}
+
+void DesktopComposer::editUnsaved() {
+  edit(Sentence("Not saved. %1", {say(*output_->failure())}));
+}
+
+// In the user's language, as a part of another sentence.
+std::string DesktopComposer::say(const Sentence& sentence) const {
+  return toUtf8(context().words(sentence));
 }
 
 void DesktopComposer::cancel() {
-  if (std::exchange(waiting_, nullptr)) return edit("Stopped. Your message is still here.");
+  if (std::exchange(waiting_, nullptr)) {
+    return edit(Sentence("Stopped. Your message is still here."));
+  }
   if (work_.isRunning()) return work_.stop();
   if (handOver_) {
     return onHandedOver(MailHandOver::Outcome::failed,
-                        "It was stopped. Your mail program may open all the same.");
+                        Sentence("It was stopped. Your mail program may open all the same."));
   }
   if (isBusy()) {
-    return sender_->stop("Sending was stopped. The message may have been sent all the same.");
+    return sender_->stop(
+        Sentence("Sending was stopped. The message may have been sent all the same."));
   }
   if (isSaved_) return leave(MailComposeResult::saved);
   if (window_.isChanged()) return askBeforeLeaving();
@@ -196,13 +209,13 @@ void DesktopComposer::cancel() {
 }
 
 void DesktopComposer::askBeforeLeaving() {
-  const auto say = [this](const char* english) { return toUtf8(context().words(english)); };
-  const auto question =
-      std::make_shared<DesktopAlert>(sharedContext(), say("Discard this message?"),
-                                     say("What you have written is lost unless you save it."));
-  question->addAction(say("Save draft"), AlertActionStyle::standard, [this] { save(); });
-  question->addAction(say("Discard"), AlertActionStyle::destructive, [this] { giveUp(); });
-  question->addAction(say("Keep writing"), AlertActionStyle::cancel, nullptr);
+  const auto question = std::make_shared<DesktopAlert>(
+      sharedContext(), say(Sentence("Discard this message?")),
+      say(Sentence("What you have written is lost unless you save it.")));
+  question->addAction(say(Sentence("Save draft")), AlertActionStyle::standard, [this] { save(); });
+  question->addAction(say(Sentence("Discard")), AlertActionStyle::destructive,
+                      [this] { giveUp(); });
+  question->addAction(say(Sentence("Keep writing")), AlertActionStyle::cancel, nullptr);
   present(question, true, nullptr);
 }
 

@@ -61,11 +61,11 @@ class DesktopComposer final : public NativeOf<MailComposer, SheetController>, pu
   void onPrepared();
 
   // Runs `action` once everything is attached. The window says `notice` and can stop it.
-  void whenWhole(const QString& notice, std::function<void()> action);
+  void whenWhole(const Sentence& notice, std::function<void()> action);
 
-  // Writes what the window holds beside the main thread, then calls `done`. The window says
-  // `notice`, how far it is, and can stop it.
-  void write(const QString& notice, MailOutput::Use use, std::function<void()> done);
+  // Writes what the window holds beside the main thread, then calls `done`. The window says what
+  // goes on, how far it is, and can stop it.
+  void write(MailOutput::Use use, std::function<void()> done);
   void startWriting(MailOutput::Use use, std::function<void()> done);
   void showProgress();
   void hideProgress();
@@ -79,10 +79,12 @@ class DesktopComposer final : public NativeOf<MailComposer, SheetController>, pu
   void deliver();
   void onDelivered(const Failure& failure);
   void handOver();
-  void onHandedOver(MailHandOver::Outcome outcome, const std::string& failure);
+  void onHandedOver(MailHandOver::Outcome outcome, const Failure& failure);
   void giveUpDelivery();
   void unlock();
-  void edit(const std::string& notice);
+  void edit(const Sentence& notice);
+  void editUnsaved();
+  std::string say(const Sentence& sentence) const;
 
   void openDraft(const std::string& name);
   void startOpening(const std::string& name);

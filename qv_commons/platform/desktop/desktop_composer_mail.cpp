@@ -12,6 +12,10 @@ namespace {
 using Phase = ComposerWindow::Phase;
 using Severity = ComposerWindow::Severity;
 
+Sentence noMailProgram() {
+  return Sentence("This computer has no mail program.");
+}
+
 }  // namespace
 
 bool DesktopComposer::goesToDesktop() const {
@@ -36,17 +40,17 @@ bool DesktopComposer::showProblem() {
 void DesktopComposer::send() {
   if (showProblem()) return;
   if (goesToDesktop()) return handOver();
-  write("Sending…", MailOutput::Use::send, [this] { deliver(); });
+  write(MailOutput::Use::send, [this] { deliver(); });
 }
 
 void DesktopComposer::deliver() {
   const DesktopSettings& settings = context().settings;
-  if (output_->wasStopped()) return onDelivered("Sending was stopped.");
+  if (output_->wasStopped()) return onDelivered(Sentence("Sending was stopped."));
   if (output_->failure()) return onDelivered(output_->failure());
   const QString program = findMailProgram(settings.sendmailProgram);
-  if (program.isEmpty()) return onDelivered("This computer has no mail program.");
+  if (program.isEmpty()) return onDelivered(noMailProgram());
   if (output_->noDraft()) {
-    window_.showNotice(fromUtf8("Sending… No copy is kept: " + *output_->noDraft()),
+    window_.showNotice(Sentence("Sending… No copy is kept: %1", {say(*output_->noDraft())}),
                        Severity::info);
   }
   QStringList arguments;
@@ -60,43 +64,47 @@ void DesktopComposer::deliver() {
 
 void DesktopComposer::onDelivered(const Failure& failure) {
   if (!failure) return removeCopyAndLeave(MailComposeResult::sent);
-  if (output_->wasStopped()) return edit("Not sent. " + *failure);
-  const std::string copy = output_->noDraft() ? "No copy is kept: " + *output_->noDraft()
-                                              : "A copy is kept as " + draftPath() + ".";
-  edit("Not sent. " + *failure + "\n" + copy);
+  if (output_->wasStopped()) return edit(Sentence("Not sent. %1", {say(*failure)}));
+  edit(
+      output_->noDraft()
+          ? Sentence("Not sent. %1\nNo copy is kept: %2", {say(*failure), say(*output_->noDraft())})
+          : Sentence("Not sent. %1\nA copy is kept as %2.", {say(*failure), draftPath()}));
 }
 
 void DesktopComposer::handOver() {
   if (showProblem()) return;
-  whenWhole("Opening your mail program…", [this] {
+  whenWhole(Sentence("Opening your mail program…"), [this] {
     if (isOver_) return window_.isChanged() ? keepUnseen() : release();
     std::vector<MailWay> ways = context().mailWays.present();
     ways.erase(std::find(ways.begin(), ways.end(), MailWay::sendmail), ways.end());
     progressTimer_.start(kProgressMilliseconds);
     handOver_ = std::make_unique<HandOverInTurn>(
         std::move(ways), message(), context().handedMailDirectory(), identity_, window(),
-        [this](MailHandOver::Outcome outcome, const std::string& failure) {
+        [this](MailHandOver::Outcome outcome, const Failure& failure) {
           later([this, outcome, failure] { onHandedOver(outcome, failure); });
         });
   });
 }
 
-void DesktopComposer::onHandedOver(MailHandOver::Outcome outcome, const std::string& failure) {
+void DesktopComposer::onHandedOver(MailHandOver::Outcome outcome, const Failure& failure) {
   if (!handOver_) return;  // stopped meanwhile
   handOver_.reset();
   hideProgress();
   if (outcome == MailHandOver::Outcome::opened) return leave(MailComposeResult::saved);
   if (outcome == MailHandOver::Outcome::refused) {
     if (!window_.isChanged()) return leave(MailComposeResult::cancelled);
-    return edit("Not handed over. No mail program was chosen.");
+    return edit(Sentence("Not handed over. No mail program was chosen."));
   }
   hasDesktopFailed_ = true;
-  edit("Not handed over to your mail program. " + failure +
-       (hasSendmail() ? "\nYou can send the message from here." : ""));
+  const std::string reason = say(failure.value_or(noMailProgram()));
+  edit(hasSendmail() ? Sentence("Not handed over to your mail program. %1\n"
+                                "You can send the message from here.",
+                                {reason})
+                     : Sentence("Not handed over to your mail program. %1", {reason}));
 }
 
 void DesktopComposer::openDraft(const std::string& name) {
-  whenWhole("Opening…", [this, name] { startOpening(name); });
+  whenWhole(Sentence("Opening…"), [this, name] { startOpening(name); });
 }
 
 void DesktopComposer::startOpening(const std::string& name) {
@@ -119,9 +127,11 @@ void DesktopComposer::startOpening(const std::string& name) {
       },
       [this, opened, name] {
         if (isOver_) return opened->notKept ? keepUnseen() : release();
-        if (work_.isStopped()) return edit("Not opened. Opening was stopped.");
-        if (opened->notKept) return edit("Your message is still here. " + *opened->notKept);
-        if (!opened->draft.value) return edit(opened->draft.failure);
+        if (work_.isStopped()) return edit(Sentence("Not opened. Opening was stopped."));
+        if (opened->notKept) {
+          return edit(Sentence("Your message is still here. %1", {say(*opened->notKept)}));
+        }
+        if (!opened->draft.value) return edit(*opened->draft.failure);
         fill(*opened->draft.value, name);
       });
 }
@@ -151,15 +161,15 @@ void DesktopComposer::listDrafts() {
 // As often as the window around it is hidden, and once for all when the composer goes.
 void DesktopComposer::keepWhatWasTyped() {
   if (isBusy() || isOver_ || isSaved_ || isOnDisk_ || !window_.isChanged()) return;
-  write("Saving…", MailOutput::Use::keep, [this] {
-    if (output_->failure()) return edit("Not saved. " + *output_->failure());
+  write(MailOutput::Use::keep, [this] {
+    if (output_->failure()) return editUnsaved();
     unlock();
   });
 }
 
 void DesktopComposer::onWrittenUnseen() {
   if (output_->wasStopped() && window_.isChanged()) return keepUnseen();
-  if (output_->noDraft()) context().reportError(*output_->noDraft());
+  if (output_->noDraft()) context().reportError(inEnglish(*output_->noDraft()));
   release();
 }
 
@@ -191,7 +201,7 @@ void DesktopComposer::finish() {
     keepUnseen();
     work_.finish();
   }
-  if (output_->noDraft()) context().reportError(*output_->noDraft());
+  if (output_->noDraft()) context().reportError(inEnglish(*output_->noDraft()));
 }
 
 }  // namespace qv_commons::desktop

@@ -37,13 +37,13 @@ double HandOverInTurn::progress() const {
   return static_cast<double>(written_) / static_cast<double>(size_);
 }
 
-void HandOverInTurn::tryNext(const std::string& failure) {
+void HandOverInTurn::tryNext(const Failure& failure) {
   attempt_.reset();
   if (!mail_.value || ways_.empty()) return done_(Outcome::failed, failure);
   const MailWay way = ways_.back();
   ways_.pop_back();
   // The attempt that has ended is still at work, and about to be destroyed.
-  const auto tried = [this](Outcome outcome, const std::string& reason) {
+  const auto tried = [this](Outcome outcome, const Failure& reason) {
     QMetaObject::invokeMethod(
         &receiver_, [this, outcome, reason] { onTried(outcome, reason); }, Qt::QueuedConnection);
   };
@@ -54,9 +54,9 @@ void HandOverInTurn::tryNext(const std::string& failure) {
   }
 }
 
-void HandOverInTurn::onTried(Outcome outcome, const std::string& failure) {
+void HandOverInTurn::onTried(Outcome outcome, const Failure& failure) {
   if (outcome == Outcome::failed) return tryNext(failure);
-  done_(outcome, "");
+  done_(outcome, std::nullopt);
 }
 
 }  // namespace qv_commons::desktop

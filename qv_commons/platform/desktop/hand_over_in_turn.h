@@ -21,7 +21,8 @@ class HandOverInTurn {
  public:
   // Tries `ways` in their order, without sendmail. The attachments become files in `folder`, beside
   // the main thread; `name` is the message's own. `done` is called once, from the event loop, and
-  // must not destroy this. It has failed where no way took the message, with the last one's reason.
+  // must not destroy this. It has failed where no way took the message, with the last one's reason;
+  // without one where there was no way.
   HandOverInTurn(std::vector<MailWay> ways, MailMessage message, std::string folder,
                  std::string name, QWidget* window, MailHandOver::Done done);
 
@@ -31,8 +32,8 @@ class HandOverInTurn {
  private:
   using Outcome = MailHandOver::Outcome;
 
-  void tryNext(const std::string& failure);
-  void onTried(Outcome outcome, const std::string& failure);
+  void tryNext(const Failure& failure);
+  void onTried(Outcome outcome, const Failure& failure);
 
   std::vector<MailWay> ways_;  // the next one last
   QPointer<QWidget> window_;

@@ -48,9 +48,9 @@ Failure writeDraft(const std::string& directory, const std::string& name,
   if (writeNewFile(unfinished, write) && std::rename(unfinished.c_str(), path.c_str()) == 0) {
     return syncFolder(directory);
   }
-  const std::string reason = describeError(errno);
+  const int reason = errno;
   ::unlink(unfinished.c_str());
-  return path + " can't be written: " + reason + ".";
+  return notWritten(path, reason);
 }
 
 void removeUnfinishedDrafts(const std::string& directory) {
@@ -78,10 +78,12 @@ std::vector<DraftSummary> listDrafts(const std::string& directory) {
 
 Result<MailMessage> readDraft(const std::string& path) {
   const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
-  if (!file.isOpen()) return {std::nullopt, path + ": " + describeError(errno) + "."};
+  if (!file.isOpen()) {
+    return {std::nullopt, Sentence("%1 can't be read: %2.", {path, describeError(errno)})};
+  }
   std::optional<MailMessage> message = readMailMessage(file.number());
-  if (!message) return {std::nullopt, path + ": not an e-mail."};
-  return {std::move(message), ""};
+  if (!message) return {std::nullopt, Sentence("%1 is not an e-mail.", {path})};
+  return {std::move(message)};
 }
 
 }  // namespace qv_commons::desktop

@@ -18,6 +18,7 @@ constexpr std::size_t kWrittenPiece = 1 << 20;
 // Of the 128 KB of an argument, what is left for the body beside addresses, subject and files.
 constexpr std::size_t kLongestLinkedBody = 100'000;
 
+// In English, like all that a support mail says by itself.
 constexpr const char* kBodyIsAttached =
     "My message is in the attached file %1: it could not be handed over as text.";
 
@@ -48,10 +49,6 @@ std::string fileNameOf(const MailAttachment& attachment) {
 // Each file has one, so that no two of the same name meet.
 std::string folderOf(const std::string& folder, const std::string& name, qsizetype number) {
   return folder + "/" + name + "-" + std::to_string(number);
-}
-
-Failure notWritten(const std::string& path, int reason) {
-  return path + " can't be written: " + describeError(reason) + ".";
 }
 
 bool writeFile(const std::string& path, std::string_view bytes, const std::atomic<bool>& isStopped,
@@ -88,17 +85,17 @@ Result<HandedMail> makeHandedMail(const MailMessage& message, const std::string&
   }
   for (const SharedAttachment& attachment : attachments) {
     const std::string own = folderOf(folder, name, mail.files.size() + 1);
-    if (Failure failure = makePrivateFolder(own)) return {std::nullopt, *failure};
+    if (Failure failure = makePrivateFolder(own)) return {std::nullopt, failure};
     const std::string path = own + "/" + fileNameOf(*attachment);
     if (!writeFile(path, attachment->data, isStopped, took)) {
       Failure failure = notWritten(path, errno);
       std::error_code ignored;
       std::filesystem::remove_all(own, ignored);
-      return {std::nullopt, *std::move(failure)};
+      return {std::nullopt, std::move(failure)};
     }
     mail.files += fromUtf8(path);
   }
-  return {std::move(mail), ""};
+  return {std::move(mail)};
 }
 
 void removeOldHandedMail(const std::string& folder) {

@@ -1,7 +1,7 @@
 // Hands a message over to the desktop, whose own mail program shows it for the user to finish.
 //
 //     const Result<HandedMail> mail = makeHandedMail(message, folder, "1", isStopped);
-//     if (!mail.value) return showNotice(mail.failure);
+//     if (!mail.value) return showNotice(words(*mail.failure));
 //     attempt = std::make_unique<PortalMail>(*mail.value, window, done);
 #pragma once
 
@@ -46,9 +46,9 @@ class MailHandOver {
     failed
   };
 
-  // Called once, from the event loop; `failure` is a sentence for the user. Must not destroy the
+  // Called once, from the event loop; `failure` says why it has failed. Must not destroy the
   // attempt.
-  using Done = std::function<void(Outcome outcome, const std::string& failure)>;
+  using Done = std::function<void(Outcome outcome, const Failure& failure)>;
 
   MailHandOver() = default;
   virtual ~MailHandOver() = default;

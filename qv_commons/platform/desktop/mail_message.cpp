@@ -25,18 +25,18 @@ bool isSendable(const MailAttachment& attachment) {
 }
 
 std::optional<MailProblem> findRecipientsProblem(const std::string& recipients) {
-  const auto about = [](std::string sentence) {
+  const auto about = [](Sentence sentence) {
     return MailProblem{std::move(sentence), MailField::recipients};
   };
   if (hasControlCharacter(recipients)) {
-    return about(
-        "The address holds a line break or another control character. Please take it "
-        "out.");
+    return about(Sentence(
+        "The address holds a line break or another control character. Please take it out."));
   }
   const std::vector<std::string> addresses = splitAddresses(recipients);
-  if (addresses.empty()) return about("Please enter an address to send to.");
+  if (addresses.empty()) return about(Sentence("Please enter an address to send to."));
   for (const std::string& address : addresses) {
-    if (!parseMailbox(address)) return about("“" + address + "” is not an e-mail address.");
+    if (parseMailbox(address)) continue;
+    return about(Sentence("“%1” is not an e-mail address.", {address}));
   }
   return std::nullopt;
 }
@@ -139,12 +139,14 @@ std::optional<MailProblem> findProblem(const MailMessage& message) {
   if (auto problem = findRecipientsProblem(message.recipients)) return problem;
   if (hasControlCharacter(message.subject)) {
     return MailProblem{
-        "The subject holds a line break or another control character. Please take it out.",
+        Sentence(
+            "The subject holds a line break or another control character. Please take it out."),
         MailField::subject};
   }
   for (const SharedAttachment& attachment : message.attachments) {
     if (!isSendable(*attachment)) {
-      return MailProblem{"The attachment's name or type can't be sent.", MailField::other};
+      return MailProblem{Sentence("The attachment's name or type can't be sent."),
+                         MailField::other};
     }
   }
   return std::nullopt;

@@ -5,7 +5,7 @@
 //                               .subject = "Help",
 //                               .body = "It broke.",
 //                               .messageId = "1@example.com"};
-//     if (const auto problem = findProblem(message)) return show(problem->sentence);
+//     if (const auto problem = findProblem(message)) return show(words(problem->sentence));
 //     writeMailMessage(message, [&](std::string_view bytes) { return file.write(bytes); });
 //
 // Pure: the same input gives the same bytes. Any thread.
@@ -19,6 +19,7 @@
 #include <string_view>
 #include <vector>
 
+#include "qv_commons/platform/desktop/outcome.h"
 #include "qv_commons/platform/mail_composer.h"
 
 namespace qv_commons::desktop {
@@ -40,7 +41,7 @@ struct MailMessage {
 enum class MailField : std::uint8_t { recipients, subject, other };
 
 struct MailProblem {
-  std::string sentence;  // for the user
+  Sentence sentence;
   MailField field = MailField::other;
 };
 

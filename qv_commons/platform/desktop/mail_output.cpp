@@ -21,7 +21,7 @@ void MailOutput::write(Use use, const std::atomic<bool>& isStopped) {
       memory_->isOpen() &&
       writeTo([this](std::string_view bytes) { return writeAll(*memory_, bytes); }, isStopped);
   wasStopped_ = isStopped;
-  if (!done) failure_ = "There is no room for the message: " + describeError(errno) + ".";
+  if (!done) failure_ = Sentence("There is no room for the message: %1.", {describeError(errno)});
 }
 
 bool MailOutput::writeTo(const MailSink& sink, const std::atomic<bool>& isStopped) {

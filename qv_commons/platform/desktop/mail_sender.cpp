@@ -12,21 +12,21 @@ namespace qv_commons::desktop {
 namespace {
 
 // The exit codes of sysexits.h, which mail programs keep to.
-std::string describeExit(int exitCode) {
+Sentence describeExit(int exitCode) {
   switch (exitCode) {
     case EX_DATAERR:
     case EX_NOUSER:
-      return "The mail server refused the address or the message.";
+      return Sentence("The mail server refused the address or the message.");
     case EX_NOHOST:
     case EX_UNAVAILABLE:
     case EX_TEMPFAIL:
-      return "The mail server can't be reached at the moment. Please try again later.";
+      return Sentence("The mail server can't be reached at the moment. Please try again later.");
     case EX_NOPERM:
-      return "You are not allowed to send mail.";
+      return Sentence("You are not allowed to send mail.");
     case EX_CONFIG:
-      return "Mail is not set up on this computer.";
+      return Sentence("Mail is not set up on this computer.");
     default:
-      return "The mail program failed with code " + std::to_string(exitCode) + ".";
+      return Sentence("The mail program failed with code %1.", {std::to_string(exitCode)});
   }
 }
 
@@ -34,8 +34,7 @@ std::string describeExit(int exitCode) {
 std::string complaint(const QByteArray& said) {
   constexpr qsizetype kLongest = 300;
   const QString text = QString::fromUtf8(said).simplified();
-  if (text.isEmpty()) return "";
-  return " (" + toUtf8(text.size() > kLongest ? "…" + text.right(kLongest) : text) + ")";
+  return toUtf8(text.size() > kLongest ? "…" + text.right(kLongest) : text);
 }
 
 }  // namespace
@@ -57,13 +56,13 @@ MailSender::MailSender(const QString& program, const QStringList& arguments,
       &process_, &QProcess::errorOccurred, &process_,
       [this](QProcess::ProcessError error) {
         if (error != QProcess::FailedToStart) return;
-        finish("The mail program " + toUtf8(process_.program()) + " can't be started.");
+        finish(Sentence("The mail program %1 can't be started.", {toUtf8(process_.program())}));
       },
       Qt::QueuedConnection);
   QObject::connect(&process_, &QProcess::readyReadStandardError, &process_,
                    [this] { keepWhatIsSaid(); });
   QObject::connect(&timer_, &QTimer::timeout, &timer_,
-                   [this] { stop("The mail program took too long and was ended."); });
+                   [this] { stop(Sentence("The mail program took too long and was ended.")); });
   timer_.setSingleShot(true);
   timer_.start(timeout);
   process_.setStandardInputFile(messageFile);
@@ -80,7 +79,7 @@ MailSender::~MailSender() {
   process_.waitForFinished();
 }
 
-void MailSender::stop(std::string reason) {
+void MailSender::stop(Sentence reason) {
   if (stopped_) return;
   stopped_ = std::move(reason);
   killAll();
@@ -93,10 +92,12 @@ void MailSender::killAll() {
 
 void MailSender::onFinished(int exitCode, QProcess::ExitStatus status) {
   if (stopped_) return finish(stopped_);
-  if (status == QProcess::CrashExit) return finish("The mail program crashed.");
+  if (status == QProcess::CrashExit) return finish(Sentence("The mail program crashed."));
   if (exitCode == EX_OK) return finish(std::nullopt);
   keepWhatIsSaid();
-  finish(describeExit(exitCode) + complaint(said_));
+  Sentence failure = describeExit(exitCode);
+  failure.quoted = complaint(said_);
+  finish(std::move(failure));
 }
 
 // A program that says more than a person reads must not fill the memory.

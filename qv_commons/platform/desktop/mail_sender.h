@@ -22,8 +22,8 @@ QString findMailProgram(const std::string& program);
 // ends the program.
 class MailSender {
  public:
-  // Called once, from the event loop: why the message was not sent, in a sentence for the user, or
-  // nothing where it was. Must not destroy the sender.
+  // Called once, from the event loop: why the message was not sent, or nothing where it was. Must
+  // not destroy the sender.
   using Done = std::function<void(const Failure& failure)>;
 
   // Runs `program` with `arguments` and the file on its standard input. A program that takes longer
@@ -38,7 +38,7 @@ class MailSender {
   bool isRunning() const { return done_ != nullptr; }
 
   // Ends the program; the message has then failed for `reason`.
-  void stop(std::string reason);
+  void stop(Sentence reason);
 
  private:
   void onFinished(int exitCode, QProcess::ExitStatus status);

@@ -66,7 +66,7 @@ PortalMail::PortalMail(const HandedMail& mail, const QWidget* window, Done done)
   portal_ = std::make_unique<QDBusServiceWatcher>(kPortalService, bus,
                                                   QDBusServiceWatcher::WatchForUnregistration);
   connect(portal_.get(), &QDBusServiceWatcher::serviceUnregistered, this,
-          [this] { finish(Outcome::failed, "The desktop's mail portal has gone."); });
+          [this] { finish(Outcome::failed, Sentence("The desktop's mail portal has gone.")); });
   const QString token = "qv_commons_" + QUuid::createUuid().toString(QUuid::Id128);
   listenTo(requestPath(token));
   QDBusMessage call = QDBusMessage::createMethodCall(kPortalService, kPortalPath,
@@ -92,8 +92,8 @@ void PortalMail::listenTo(const QString& request) {
 void PortalMail::onAccepted() {
   const QDBusPendingReply<QDBusObjectPath> reply = *call_;
   if (reply.isError()) {
-    return finish(Outcome::failed,
-                  "The desktop's mail portal says: " + toUtf8(reply.error().message()) + ".");
+    return finish(Outcome::failed, Sentence("The desktop's mail portal says: %1.",
+                                            {toUtf8(reply.error().message())}));
   }
   // Portals from before the rule choose a path of their own.
   if (reply.value().path() != request_) listenTo(reply.value().path());
@@ -102,10 +102,10 @@ void PortalMail::onAccepted() {
 void PortalMail::onResponse(uint response, const QVariantMap&) {
   if (response == 0) return finish(Outcome::opened);
   if (response == 1) return finish(Outcome::refused);
-  finish(Outcome::failed, "The desktop's mail portal could not open a mail program.");
+  finish(Outcome::failed, Sentence("The desktop's mail portal could not open a mail program."));
 }
 
-void PortalMail::finish(Outcome outcome, const std::string& failure) {
+void PortalMail::finish(Outcome outcome, const Failure& failure) {
   const Done done = std::exchange(done_, nullptr);
   if (done) done(outcome, failure);
 }

@@ -30,7 +30,7 @@ class PortalMail final : public QObject, public MailHandOver {
   Q_SLOT void onResponse(uint response, const QVariantMap& results);
   void listenTo(const QString& request);
   void onAccepted();
-  void finish(Outcome outcome, const std::string& failure = "");
+  void finish(Outcome outcome, const Failure& failure = {});
 
   Done done_;
   QString request_;

@@ -21,7 +21,7 @@ Failure makePrivateFolder(const std::string& folder) {
   const int reason = errno == EEXIST ? ENOTDIR : errno;
   // Another process may have made it meanwhile.
   if (std::filesystem::is_directory(path, error)) return std::nullopt;
-  return "The folder " + folder + " can't be made: " + describeError(reason) + ".";
+  return Sentence("The folder %1 can't be made: %2.", {folder, describeError(reason)});
 }
 
 std::vector<std::filesystem::path> entriesOf(const std::string& folder) {
@@ -38,7 +38,11 @@ std::vector<std::filesystem::path> entriesOf(const std::string& folder) {
 Failure syncFolder(const std::string& folder) {
   const FileDescriptor directory(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (directory.isOpen() && ::fsync(directory.number()) == 0) return std::nullopt;
-  return "The folder " + folder + " can't be written: " + describeError(errno) + ".";
+  return Sentence("The folder %1 can't be written: %2.", {folder, describeError(errno)});
+}
+
+Sentence notWritten(const std::string& path, int reason) {
+  return Sentence("%1 can't be written: %2.", {path, describeError(reason)});
 }
 
 }  // namespace qv_commons::desktop

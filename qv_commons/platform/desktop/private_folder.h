@@ -19,4 +19,7 @@ std::vector<std::filesystem::path> entriesOf(const std::string& folder);
 // A new name reaches the disk with its folder.
 Failure syncFolder(const std::string& folder);
 
+// That the file at `path` could not be written, for the system's `reason`.
+Sentence notWritten(const std::string& path, int reason);
+
 }  // namespace qv_commons::desktop

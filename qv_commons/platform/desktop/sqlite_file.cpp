@@ -84,9 +84,9 @@ SqliteFile::Contents SqliteFile::read() {
   }
 }
 
-Failure SqliteFile::write(const Values& changes, const Values& known, TimePoint end) {
+Complaint SqliteFile::write(const Values& changes, const Values& known, TimePoint end) {
   const Outcome outcome = tryWrite(changes, known, end);
-  return outcome == Outcome::done ? std::nullopt : Failure(failure_);
+  return outcome == Outcome::done ? std::nullopt : Complaint(failure_);
 }
 
 SqliteFile::Outcome SqliteFile::open(Mode mode) {

@@ -7,14 +7,16 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
-
-#include "qv_commons/platform/desktop/outcome.h"
 
 struct sqlite3;
 
 namespace qv_commons::desktop {
+
+// Why nothing was done, in a sentence for the host; std::nullopt if it was.
+using Complaint = std::optional<std::string>;
 
 class SqliteFile {
  public:
@@ -30,7 +32,7 @@ class SqliteFile {
   struct Contents {
     State state = State::failed;
     Values values = {};  // all that the file holds, if it is whole
-    Failure failure = {};
+    Complaint failure = {};
   };
 
   // Waits for nobody. A damaged file, or one that is not of this kind, is renamed to
@@ -40,7 +42,7 @@ class SqliteFile {
   // In one transaction, which is on the disk when this returns: writes all of `changes`, and of
   // `known` what the file lacks. Makes the file (mode 0600) where there is none. Waits for other
   // processes until `end`.
-  Failure write(const Values& changes, const Values& known, TimePoint end);
+  Complaint write(const Values& changes, const Values& known, TimePoint end);
 
  private:
   enum class Outcome : std::uint8_t { done, absent, busy, failed, damaged };

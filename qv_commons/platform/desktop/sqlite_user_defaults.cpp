@@ -58,7 +58,7 @@ void SqliteUserDefaults::commit() {
 
 void SqliteUserDefaults::commitWith(milliseconds patience) {
   if (waiting_.empty()) return;
-  if (const Failure failure = write(patience)) {
+  if (const Complaint failure = write(patience)) {
     tell(failure);
     retry_.start();
     return;
@@ -71,21 +71,21 @@ void SqliteUserDefaults::commitWith(milliseconds patience) {
 
 // Both or a failure: what a user is told must be there whichever file the next start reads. Where
 // the file fails, the copy may still do.
-Failure SqliteUserDefaults::write(milliseconds patience) {
+Complaint SqliteUserDefaults::write(milliseconds patience) {
   if (const Failure failure = makePrivateFolder(folder_)) {
-    return "The settings are in the memory alone until they can be written. " + *failure;
+    return "The settings are in the memory alone until they can be written. " + inEnglish(*failure);
   }
   const SqliteFile::TimePoint end = std::chrono::steady_clock::now() + patience;
   if (known_.empty()) refresh(end);
-  const Failure failure = writeTo(file_, end);
-  const Failure ofCopy = writeTo(copy_, end);
+  const Complaint failure = writeTo(file_, end);
+  const Complaint ofCopy = writeTo(copy_, end);
   return failure ? failure : ofCopy;
 }
 
-Failure SqliteUserDefaults::writeTo(SqliteFile& file, SqliteFile::TimePoint end) {
-  Failure failure = file.write(waiting_, known_, end);
+Complaint SqliteUserDefaults::writeTo(SqliteFile& file, SqliteFile::TimePoint end) {
+  Complaint failure = file.write(waiting_, known_, end);
   if (!failure) return std::nullopt;
-  Failure damage;
+  Complaint damage;
   if (take(file, damage) != SqliteFile::State::absent) return failure;
   tell(damage);
   return file.write(waiting_, known_, end);
@@ -94,7 +94,7 @@ Failure SqliteUserDefaults::writeTo(SqliteFile& file, SqliteFile::TimePoint end)
 // Waits once: not where the last attempt was in vain.
 void SqliteUserDefaults::refresh(SqliteFile::TimePoint end) const {
   const bool waits = couldRead_;
-  Failure failure;
+  Complaint failure;
   while (!(couldRead_ = tryToRead(failure)) && waits && std::chrono::steady_clock::now() < end) {
     std::this_thread::sleep_for(kPause);
   }
@@ -102,12 +102,12 @@ void SqliteUserDefaults::refresh(SqliteFile::TimePoint end) const {
 }
 
 // From the file, or else its copy.
-bool SqliteUserDefaults::tryToRead(Failure& failure) const {
+bool SqliteUserDefaults::tryToRead(Complaint& failure) const {
   using State = SqliteFile::State;
-  Failure ofFile;
+  Complaint ofFile;
   const State file = take(file_, ofFile);
   if (file == State::whole) return true;
-  Failure ofCopy;
+  Complaint ofCopy;
   const State copy = take(copy_, ofCopy);
   if (file == State::absent) tell(ofFile);  // it was damaged
   if (copy == State::absent) tell(ofCopy);
@@ -119,14 +119,14 @@ bool SqliteUserDefaults::tryToRead(Failure& failure) const {
   return file == State::absent && copy == State::absent;
 }
 
-SqliteFile::State SqliteUserDefaults::take(SqliteFile& file, Failure& failure) const {
+SqliteFile::State SqliteUserDefaults::take(SqliteFile& file, Complaint& failure) const {
   SqliteFile::Contents contents = file.read();
   for (const auto& [key, value] : contents.values) known_.insert_or_assign(key, value);
   failure = std::move(contents.failure);
   return contents.state;
 }
 
-void SqliteUserDefaults::tell(const Failure& failure) const {
+void SqliteUserDefaults::tell(const Complaint& failure) const {
   if (failure && told_.insert(*failure).second && report_) report_(*failure);
 }
 

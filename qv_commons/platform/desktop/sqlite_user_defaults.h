@@ -46,12 +46,12 @@ class SqliteUserDefaults final : public UserDefaults {
   using Milliseconds = std::chrono::milliseconds;
 
   void refresh(SqliteFile::TimePoint end) const;
-  bool tryToRead(Failure& failure) const;
-  SqliteFile::State take(SqliteFile& file, Failure& failure) const;
-  Failure write(Milliseconds patience);
-  Failure writeTo(SqliteFile& file, SqliteFile::TimePoint end);
+  bool tryToRead(Complaint& failure) const;
+  SqliteFile::State take(SqliteFile& file, Complaint& failure) const;
+  Complaint write(Milliseconds patience);
+  Complaint writeTo(SqliteFile& file, SqliteFile::TimePoint end);
   void commitWith(Milliseconds patience);
-  void tell(const Failure& failure) const;
+  void tell(const Complaint& failure) const;
 
   std::string folder_;
   ErrorHandler report_;

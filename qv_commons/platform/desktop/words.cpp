@@ -24,6 +24,10 @@ QString Words::operator()(const char* english) const {
   return ours.isEmpty() ? source : ours;
 }
 
+QString Words::operator()(const Sentence& sentence) const {
+  return fromUtf8(filled(toUtf8((*this)(sentence.english)), sentence));
+}
+
 QLocale Words::locale() const {
   return settings_.languages.empty() ? QLocale() : QLocale(fromUtf8(settings_.languages.front()));
 }

@@ -2,6 +2,7 @@
 // the code, and in translations/ in others.
 //
 //     button->setText(words("Cancel"));
+//     label->setText(words(Sentence("Saved to %1", {path})));
 #pragma once
 
 #include <QLocale>
@@ -9,6 +10,7 @@
 #include <QTranslator>
 
 #include "qv_commons/platform/desktop/desktop_platform.h"
+#include "qv_commons/platform/desktop/outcome.h"
 
 namespace qv_commons::desktop {
 
@@ -19,6 +21,7 @@ class Words {
 
   // An app's own translator comes first, asked in the context "qv_commons".
   QString operator()(const char* english) const;
+  QString operator()(const Sentence& sentence) const;
 
   // By which numbers and dates are written: of the host's first language, else Qt's default.
   QLocale locale() const;

@@ -16,14 +16,14 @@ QStringList argumentsFor(const HandedMail& mail) {
 }
 
 // The exit codes of its manual.
-std::string describeXdgEmailExit(int exitCode) {
+Sentence describeXdgEmailExit(int exitCode) {
   switch (exitCode) {
     case 3:
-      return "This computer has no mail program that xdg-email knows.";
+      return Sentence("This computer has no mail program that xdg-email knows.");
     case 4:
-      return "xdg-email could not open a mail program.";
+      return Sentence("xdg-email could not open a mail program.");
     default:
-      return "xdg-email failed with code " + std::to_string(exitCode) + ".";
+      return Sentence("xdg-email failed with code %1.", {std::to_string(exitCode)});
   }
 }
 
@@ -49,7 +49,7 @@ XdgEmail::XdgEmail(const HandedMail& mail, Done done, std::chrono::milliseconds 
       process_.get(), &QProcess::errorOccurred, &timer_,
       [this](QProcess::ProcessError error) {
         if (error == QProcess::FailedToStart) {
-          finish(Outcome::failed, "xdg-email can't be started.");
+          finish(Outcome::failed, Sentence("xdg-email can't be started."));
         }
       },
       Qt::QueuedConnection);
@@ -67,12 +67,14 @@ XdgEmail::~XdgEmail() {
 }
 
 void XdgEmail::onFinished(int exitCode, QProcess::ExitStatus status) {
-  if (status == QProcess::CrashExit) return finish(Outcome::failed, "xdg-email crashed.");
+  if (status == QProcess::CrashExit) {
+    return finish(Outcome::failed, Sentence("xdg-email crashed."));
+  }
   if (exitCode != 0) return finish(Outcome::failed, describeXdgEmailExit(exitCode));
   finish(Outcome::opened);
 }
 
-void XdgEmail::finish(Outcome outcome, const std::string& failure) {
+void XdgEmail::finish(Outcome outcome, const Failure& failure) {
   timer_.stop();
   const Done done = std::exchange(done_, nullptr);
   if (done) done(outcome, failure);

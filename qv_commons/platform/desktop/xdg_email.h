@@ -24,7 +24,7 @@ class XdgEmail final : public MailHandOver {
 
  private:
   void onFinished(int exitCode, QProcess::ExitStatus status);
-  void finish(Outcome outcome, const std::string& failure = "");
+  void finish(Outcome outcome, const Failure& failure = {});
 
   Done done_;
   std::unique_ptr<QProcess> process_ = std::make_unique<QProcess>();

@@ -98,5 +98,239 @@
         <extracomment>Button: back to the composer</extracomment>
         <translation>繼續編寫</translation>
     </message>
+    <message>
+        <source>Saving…</source>
+        <extracomment>In the composer, while it is so</extracomment>
+        <translation>正在儲存…</translation>
+    </message>
+    <message>
+        <source>Sending…</source>
+        <extracomment>In the composer, while it is so</extracomment>
+        <translation>正在傳送…</translation>
+    </message>
+    <message>
+        <source>Opening…</source>
+        <extracomment>A draft; in the composer, while it is so</extracomment>
+        <translation>正在打開…</translation>
+    </message>
+    <message>
+        <source>Opening your mail program…</source>
+        <extracomment>In the composer, while it is so</extracomment>
+        <translation>正在打開您的郵件程式…</translation>
+    </message>
+    <message>
+        <source>Saved to %1</source>
+        <extracomment>%1 is a file</extracomment>
+        <translation>已儲存到 %1</translation>
+    </message>
+    <message>
+        <source>Not saved. %1</source>
+        <extracomment>%1 is another of these sentences, which says why</extracomment>
+        <translation>未儲存。%1</translation>
+    </message>
+    <message>
+        <source>Not saved. Saving was stopped.</source>
+        <extracomment>By the user</extracomment>
+        <translation>未儲存。儲存已停止。</translation>
+    </message>
+    <message>
+        <source>Stopped. Your message is still here.</source>
+        <extracomment>By the user</extracomment>
+        <translation>已停止。您的郵件仍在這裡。</translation>
+    </message>
+    <message>
+        <source>Your message is still here. %1</source>
+        <extracomment>Another draft was not opened; %1 is another of these sentences, which says why</extracomment>
+        <translation>您的郵件仍在這裡。%1</translation>
+    </message>
+    <message>
+        <source>Not opened. Opening was stopped.</source>
+        <extracomment>A draft; by the user</extracomment>
+        <translation>未打開。打開操作已停止。</translation>
+    </message>
+    <message>
+        <source>It was stopped. Your mail program may open all the same.</source>
+        <extracomment>The handing over to it; by the user</extracomment>
+        <translation>已停止。您的郵件程式仍可能會打開。</translation>
+    </message>
+    <message>
+        <source>Sending was stopped.</source>
+        <extracomment>By the user</extracomment>
+        <translation>傳送已停止。</translation>
+    </message>
+    <message>
+        <source>Sending was stopped. The message may have been sent all the same.</source>
+        <extracomment>By the user</extracomment>
+        <translation>傳送已停止。郵件仍可能已傳送。</translation>
+    </message>
+    <message>
+        <source>Not sent. %1</source>
+        <extracomment>%1 is another of these sentences, which says why</extracomment>
+        <translation>未傳送。%1</translation>
+    </message>
+    <message>
+        <source>Not sent. %1
+A copy is kept as %2.</source>
+        <extracomment>%1 is another of these sentences, which says why; %2 is a file</extracomment>
+        <translation>未傳送。%1
+副本已保留為 %2。</translation>
+    </message>
+    <message>
+        <source>Not sent. %1
+No copy is kept: %2</source>
+        <extracomment>%1 and %2 are others of these sentences, which say why</extracomment>
+        <translation>未傳送。%1
+未保留副本：%2</translation>
+    </message>
+    <message>
+        <source>Sending… No copy is kept: %1</source>
+        <extracomment>%1 is another of these sentences, which says why</extracomment>
+        <translation>正在傳送…未保留副本：%1</translation>
+    </message>
+    <message>
+        <source>Not handed over. No mail program was chosen.</source>
+        <extracomment>The user was asked which mail program to open</extracomment>
+        <translation>未移交。未選取郵件程式。</translation>
+    </message>
+    <message>
+        <source>Not handed over to your mail program. %1</source>
+        <extracomment>%1 is another of these sentences, which says why</extracomment>
+        <translation>未移交給您的郵件程式。%1</translation>
+    </message>
+    <message>
+        <source>Not handed over to your mail program. %1
+You can send the message from here.</source>
+        <extracomment>%1 is another of these sentences, which says why</extracomment>
+        <translation>未移交給您的郵件程式。%1
+您可以從這裡傳送郵件。</translation>
+    </message>
+    <message>
+        <source>This computer has no mail program.</source>
+        <translation>此電腦沒有郵件程式。</translation>
+    </message>
+    <message>
+        <source>The mail server refused the address or the message.</source>
+        <translation>郵件伺服器拒絕了地址或郵件。</translation>
+    </message>
+    <message>
+        <source>The mail server can't be reached at the moment. Please try again later.</source>
+        <translation>目前無法連接郵件伺服器。請稍後再試。</translation>
+    </message>
+    <message>
+        <source>You are not allowed to send mail.</source>
+        <extracomment>The system’s mail program refuses the user</extracomment>
+        <translation>您沒有傳送郵件的權限。</translation>
+    </message>
+    <message>
+        <source>Mail is not set up on this computer.</source>
+        <translation>此電腦尚未設定郵件。</translation>
+    </message>
+    <message>
+        <source>The mail program failed with code %1.</source>
+        <extracomment>%1 is a number</extracomment>
+        <translation>郵件程式失敗，代碼為 %1。</translation>
+    </message>
+    <message>
+        <source>The mail program %1 can't be started.</source>
+        <extracomment>%1 is a file</extracomment>
+        <translation>無法啟動郵件程式 %1。</translation>
+    </message>
+    <message>
+        <source>The mail program took too long and was ended.</source>
+        <extracomment>By the composer</extracomment>
+        <translation>郵件程式耗時過長，已被終止。</translation>
+    </message>
+    <message>
+        <source>The mail program crashed.</source>
+        <translation>郵件程式已當機。</translation>
+    </message>
+    <message>
+        <source>Please enter an address to send to.</source>
+        <translation>請輸入收件人地址。</translation>
+    </message>
+    <message>
+        <source>“%1” is not an e-mail address.</source>
+        <extracomment>%1 is what the user has typed</extracomment>
+        <translation>「%1」不是電子郵件地址。</translation>
+    </message>
+    <message>
+        <source>The address holds a line break or another control character. Please take it out.</source>
+        <translation>地址中包含換行或其他控制字元。請將其移除。</translation>
+    </message>
+    <message>
+        <source>The subject holds a line break or another control character. Please take it out.</source>
+        <translation>主旨中包含換行或其他控制字元。請將其移除。</translation>
+    </message>
+    <message>
+        <source>The attachment's name or type can't be sent.</source>
+        <translation>無法傳送此名稱或類型的附件。</translation>
+    </message>
+    <message>
+        <source>There is no room for the message: %1.</source>
+        <extracomment>%1 is the system’s reason</extracomment>
+        <translation>沒有空間儲存郵件：%1。</translation>
+    </message>
+    <message>
+        <source>The folder %1 can't be made: %2.</source>
+        <extracomment>%2 is the system’s reason</extracomment>
+        <translation>無法建立檔案夾 %1：%2。</translation>
+    </message>
+    <message>
+        <source>The folder %1 can't be written: %2.</source>
+        <extracomment>%2 is the system’s reason</extracomment>
+        <translation>無法寫入檔案夾 %1：%2。</translation>
+    </message>
+    <message>
+        <source>%1 can't be written: %2.</source>
+        <extracomment>%1 is a file, %2 the system’s reason</extracomment>
+        <translation>無法寫入 %1：%2。</translation>
+    </message>
+    <message>
+        <source>%1 can't be read: %2.</source>
+        <extracomment>%1 is a file, %2 the system’s reason</extracomment>
+        <translation>無法讀取 %1：%2。</translation>
+    </message>
+    <message>
+        <source>%1 is not an e-mail.</source>
+        <extracomment>%1 is a file</extracomment>
+        <translation>%1 不是電子郵件。</translation>
+    </message>
+    <message>
+        <source>The desktop's mail portal has gone.</source>
+        <extracomment>The portal is a program that opens the user’s mail program</extracomment>
+        <translation>桌面的郵件入口已無法使用。</translation>
+    </message>
+    <message>
+        <source>The desktop's mail portal says: %1.</source>
+        <extracomment>%1 is what the portal says, in its own words</extracomment>
+        <translation>桌面的郵件入口回報：%1。</translation>
+    </message>
+    <message>
+        <source>The desktop's mail portal could not open a mail program.</source>
+        <translation>桌面的郵件入口無法打開郵件程式。</translation>
+    </message>
+    <message>
+        <source>This computer has no mail program that xdg-email knows.</source>
+        <extracomment>xdg-email is a program’s name</extracomment>
+        <translation>此電腦沒有 xdg-email 可辨識的郵件程式。</translation>
+    </message>
+    <message>
+        <source>xdg-email could not open a mail program.</source>
+        <extracomment>xdg-email is a program’s name</extracomment>
+        <translation>xdg-email 無法打開郵件程式。</translation>
+    </message>
+    <message>
+        <source>xdg-email failed with code %1.</source>
+        <extracomment>%1 is a number</extracomment>
+        <translation>xdg-email 失敗，代碼為 %1。</translation>
+    </message>
+    <message>
+        <source>xdg-email can't be started.</source>
+        <translation>無法啟動 xdg-email。</translation>
+    </message>
+    <message>
+        <source>xdg-email crashed.</source>
+        <translation>xdg-email 已當機。</translation>
+    </message>
 </context>
 </TS>
