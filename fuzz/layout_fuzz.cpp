@@ -35,7 +35,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   std::ofstream(kLayout, std::ios::binary)
       .write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
   try {
-    check(qv_commons::desktop::loadLayout(kLayout, {}, calendar, 1) != nullptr,
+    check(qv_commons::desktop::loadLayout({.layout = kLayout}, calendar, 1) != nullptr,
           "there is a widget");
   } catch (const Fatal& fatal) {
     check(fatal.message.find(kLayout) != std::string::npos, "the error names the file");

@@ -264,10 +264,20 @@ class HostsLanguages : public Languages {
     resourceDirectory_ = temporary_.filePath("QV_Commons_iOS.bundle").toStdString();
     fs::copy(kBundle, resourceDirectory_, fs::copy_options::recursive);
   }
-  void writeTable(const std::string& language, const std::string& text) const {
+  std::string pathFor(const std::string& language, const char* file) const {
     const fs::path folder = fs::path(resourceDirectory_) / (language + ".lproj");
     fs::create_directories(folder);
-    std::ofstream(folder / "QV_AgeGateViewController.strings") << text;
+    return folder / file;
+  }
+  void writeTable(const std::string& language, const std::string& text) const {
+    std::ofstream(pathFor(language, "QV_AgeGateViewController.strings")) << text;
+  }
+  // The library's own but for its heading.
+  void writeLayout(const std::string& language, const std::string& heading) const {
+    std::ifstream file(fs::path(resourceDirectory_) / "QV_AgeGateViewController.ui");
+    std::string text{std::istreambuf_iterator<char>(file), {}};
+    text.replace(text.find(kEnglish), std::string(kEnglish).size(), heading);
+    std::ofstream(pathFor(language, "QV_AgeGateViewController.ui")) << text;
   }
 };
 
@@ -292,6 +302,45 @@ TEST_F(HostsLanguages, MayAddOne) {
   EXPECT_EQ(header(gateIn({"sv-FI", "de"})), "När är du född?");
 }
 
+TEST_F(HostsLanguages, MayHaveALayoutOfTheirOwn) {
+  writeLayout("de", "Geburtstag?");
+  QWidget& asking = gateIn({"sv", "de-AT", "fr"});
+  EXPECT_EQ(header(asking), "Geburtstag?");
+  EXPECT_EQ(view<QPushButton>(asking, "confirmBtn").text(), "Confirm");  // not the table's
+  EXPECT_NE(header(gateIn({"fr", "de"})), "Geburtstag?");
+  EXPECT_EQ(header(gateIn({"en", "de"})), kEnglish);
+  EXPECT_EQ(header(gateIn({"sv"})), kEnglish);
+  EXPECT_THAT(linksOf(refusalIn({"de"}), "tos"), ElementsAre("Datenschutz", "Nutzungsregeln"));
+}
+
+TEST_F(HostsLanguages, HaveTheLayoutOfTheRegionBeforeTheTableOfTheLanguage) {
+  writeLayout("de-AT", "Geburtstag?");
+  EXPECT_EQ(header(gateIn({"de-AT"})), "Geburtstag?");
+  EXPECT_EQ(header(gateIn({"de-CH"})), kGerman);
+  writeLayout("fr", "Anniversaire ?");
+  writeTable("fr-CA", "\"header.text\" = \"Fête ?\";");
+  EXPECT_EQ(header(gateIn({"fr-CA"})), "Fête ?");
+}
+
+TEST_F(HostsLanguages, MayHaveALayoutOfTheirOwnForEnglish) {
+  writeLayout("en", "Your birthday?");
+  EXPECT_EQ(header(gateIn({"en-GB"})), "Your birthday?");
+  EXPECT_EQ(header(gateIn({"sv"})), kEnglish);
+}
+
+TEST_F(HostsLanguages, LayTheirOwnLayoutsOutInTheirDirection) {
+  writeLayout("he", "תאריך?");
+  QWidget& asking = gateIn({"he"});
+  EXPECT_EQ(header(asking), "תאריך?");
+  EXPECT_EQ(view<QLabel>(asking, "header").layoutDirection(), Qt::RightToLeft);
+}
+
+TEST_F(HostsLanguages, WithALayoutThatIsCutOffStopTheProgram) {
+  const std::string path = pathFor("de", "QV_AgeGateViewController.ui");
+  std::ofstream(path) << "<ui version=\"4.0\"><widget";
+  EXPECT_DEATH(gateIn({"de"}), "the layout " + path);
+}
+
 TEST_F(HostsLanguages, AreLeftOutWhereTheyAreNotUtf8) {
   writeTable("de", "\"header.text\" = \"Gr\xfc\xdf Gott\";");
   EXPECT_EQ(header(gateIn({"de", "fr"})), kEnglish);
@@ -311,10 +360,12 @@ TEST_F(HostsLanguages, EndWhereTheyMakeNoSense) {
 }
 
 TEST_F(HostsLanguages, MayHaveTheAppsNameTwiceOrNotAtAll) {
-  const fs::path table =
-      fs::path(resourceDirectory_) / "de.lproj/QV_AgeGateRefusedViewController.strings";
-  std::ofstream(table) << "\"header.text\" = \"[APPNAME]? [APPNAME]!\";";
+  std::ofstream(pathFor("de", "QV_AgeGateRefusedViewController.strings"))
+      << "\"header.text\" = \"[APPNAME]? [APPNAME]!\";";
   EXPECT_EQ(header(refusalIn({"de"})), "Notes? Notes!");
+  std::ofstream(pathFor("fr", "QV_AgeGateRefusedViewController.strings"))
+      << "\"header.text\" = \"Non.\";";
+  EXPECT_EQ(header(refusalIn({"fr"})), "Non.");
 }
 
 TEST_F(HostsLanguages, MayHaveALabelOverItsRange) {

@@ -58,11 +58,11 @@ void LayoutController::load() {
   const ScreenWords words =
       findWords(path_, services_.device.preferredLanguages(),
                 [this](const std::string& problem) { context().reportError(problem); });
-  std::unique_ptr<QWidget> root = loadLayout(path_, words, services_.calendar, textScale());
+  std::unique_ptr<QWidget> root = loadLayout(words, services_.calendar, textScale());
   const LinkOpener open = [&application = services_.application](std::string_view link) {
     if (const auto url = URL::parse(std::string(link))) application.openURL(*url);
   };
-  views_ = connectScreen(*root, *screen_, open, path_,
+  views_ = connectScreen(*root, *screen_, open, words.layout,
                          [this](Completion action) { later(std::move(action)); });
   screen_->viewDidLoad();
   const QString heading = fromUtf8(screen_->headingOutlet());

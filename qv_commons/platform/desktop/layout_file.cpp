@@ -128,8 +128,9 @@ void connectAction(QWidget& widget, const Completion& run, const Later& later) {
 
 }  // namespace
 
-std::unique_ptr<QWidget> loadLayout(const std::string& path, const ScreenWords& words,
-                                    const IcuCalendar& calendar, double textScale) {
+std::unique_ptr<QWidget> loadLayout(const ScreenWords& words, const IcuCalendar& calendar,
+                                    double textScale) {
+  const std::string& path = words.layout;
   QFile file(QFile::decodeName(path.c_str()));
   if (!file.open(QIODevice::ReadOnly)) failToLoad(path, file.errorString());
   const std::unique_ptr<ScreenLoader> loader = makeLoader(path, calendar);

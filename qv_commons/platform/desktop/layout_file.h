@@ -20,11 +20,11 @@
 
 namespace qv_commons::desktop {
 
-// The root widget of the layout at `path` with those words, its fonts multiplied by `textScale`. A
-// fatal error, naming the file, where it is missing, malformed, or uses a class that nobody knows.
+// The root widget of the words' layout, with them, its fonts multiplied by `textScale`. A fatal
+// error, naming the file, where it is missing, malformed, or uses a class that nobody knows.
 // `calendar` outlives the widget.
-std::unique_ptr<QWidget> loadLayout(const std::string& path, const ScreenWords& words,
-                                    const IcuCalendar& calendar, double textScale);
+std::unique_ptr<QWidget> loadLayout(const ScreenWords& words, const IcuCalendar& calendar,
+                                    double textScale);
 
 // Connects the outlets of `screen` by object name and its actions by selector. A view of another
 // class leaves its outlet empty; an action that the screen doesn't have is a fatal error, naming

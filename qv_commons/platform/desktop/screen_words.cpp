@@ -80,18 +80,22 @@ ScreenWords findWords(const std::string& layout, const std::vector<std::string>&
   const QString path = QFile::decodeName(layout.c_str());
   const qsizetype folder = path.lastIndexOf('/') + 1;
   const QString screen = path.mid(folder).section('.', 0, 0);
+  QString own;
   QFile file;
   const QLocale language = chooseLanguage(languages, [&](const QString& table) {
-    file.setFileName(path.left(folder) + table + ".lproj/" + screen + ".strings");
-    return file.open(QIODevice::ReadOnly);
+    const QString translated = path.left(folder) + table + ".lproj/" + screen;
+    if (QFile::exists(translated + ".ui")) own = translated + ".ui";
+    file.setFileName(translated + ".strings");
+    return !own.isEmpty() || file.open(QIODevice::ReadOnly);
   });
-  if (!file.isOpen()) return {};
+  if (!own.isEmpty()) return {QFile::encodeName(own).toStdString(), language, {}};
+  if (!file.isOpen()) return {layout};
   StringTable table = parseStringTable(file.readAll().toStdString());
   if (!table.problem.isEmpty()) {
     report(toUtf8("the string table " + file.fileName() + " " + table.problem));
   }
-  if (table.words.isEmpty()) return {};
-  return {language, std::move(table.words)};
+  if (table.words.isEmpty()) return {layout};
+  return {layout, language, std::move(table.words)};
 }
 
 void applyWords(QWidget& screen, const ScreenWords& words) {

@@ -1,5 +1,6 @@
-// The words of a screen in the user's language: string tables beside its layout, for example
-// de.lproj/QV_AgeGateViewController.strings in the folder of QV_AgeGateViewController.ui.
+// The words of a screen in the user's language: beside its layout, QV_AgeGateViewController.ui,
+// string tables such as de.lproj/QV_AgeGateViewController.strings, or a layout of the language's
+// own, de.lproj/QV_AgeGateViewController.ui.
 #pragma once
 
 #include <QHash>
@@ -23,12 +24,14 @@ QLocale chooseLanguage(const std::vector<std::string>& languages,
                        const std::function<bool(const QString& table)>& take);
 
 struct ScreenWords {
-  QLocale language = QLocale::c();  // C: the layout's own
-  QHash<QString, QString> words;    // by key
+  std::string layout = {};             // that they are for
+  QLocale language = QLocale::c();     // C: the layout's own
+  QHash<QString, QString> words = {};  // by key
 };
 
-// Those in the first of the user's languages in which there are any. None where that is English,
-// which the layouts are in. `report` is told, in a sentence, of a table that makes no sense; what
+// Those in the first of the user's languages in which there are any, for `layout`, or the layout of
+// that language's own, which needs none. None where that is English, which the layouts are in.
+// `report` is told, in a sentence, of a table that makes no sense; what
 // it lacks then, as what any table lacks, is in the layout's language.
 ScreenWords findWords(const std::string& layout, const std::vector<std::string>& languages,
                       const std::function<void(const std::string&)>& report);
