@@ -1,11 +1,11 @@
 // Both screens fit in every language: at any size, with texts of 100 and 200 %, in light and dark,
 // nothing is cut off, no word is broken, and no link.
 //
-//     QV_COMMONS_PRINT_MARGINS=1 age_gate_test --gtest_filter='*LanguageFit*'
-//
-// prints how much room the tightest word of each screen has left in its line, in points.
+// With QV_COMMONS_PRINT_MARGINS in the environment, AtEverySize prints how much room the tightest
+// word of each screen has left in its line, in points, of which tools/language_room makes a table.
 #include <QApplication>
 #include <QFontDatabase>
+#include <QImage>
 #include <QLabel>
 #include <QTextBlock>
 #include <QTextLayout>
@@ -132,10 +132,35 @@ TEST_P(LanguageFit, AtEverySizeOfScreenAndText) {
   }
 }
 
-TEST_P(LanguageFit, InTheDark) {
-  showGate({320, 568}, 200, UserInterfaceStyle::dark);
-  ASSERT_NE(gate(), nullptr);
-  expectFit("gate in the dark", *gate());
+struct Seen {
+  QImage picture;
+  std::vector<QRect> places;  // of all that is on the screen
+};
+
+Seen look(QWidget& screen) {
+  Seen seen{screen.grab().toImage(), {}};
+  for (const QWidget* each : screen.findChildren<QWidget*>()) {
+    seen.places.push_back(each->geometry());
+  }
+  return seen;
+}
+
+// Light is measured at every size above; in the dark the colours alone are others.
+TEST_P(LanguageFit, InTheDarkAsInTheLight) {
+  std::vector<Seen> gates;
+  std::vector<Seen> refusals;
+  for (const UserInterfaceStyle style : {UserInterfaceStyle::light, UserInterfaceStyle::dark}) {
+    showGate({320, 568}, 200, style);
+    ASSERT_NE(gate(), nullptr);
+    gates.push_back(look(*gate()));
+    refuse();
+    ASSERT_NE(refusal(), nullptr);
+    refusals.push_back(look(*refusal()));
+  }
+  for (const std::vector<Seen>& screen : {gates, refusals}) {
+    EXPECT_EQ(screen[0].places, screen[1].places);
+    EXPECT_NE(screen[0].picture, screen[1].picture);
+  }
 }
 
 TEST_P(LanguageFit, InTheDirectionOfItsScript) {
