@@ -1,5 +1,6 @@
 """The tables of the screens' words: what is made of them is checked in as it is made, the layouts' English is theirs,
 and each language's links fall on whole labels."""
+import html
 import importlib.machinery
 import importlib.util
 import json
@@ -82,6 +83,17 @@ class English(unittest.TestCase):
                               "normalTitle": lambda item: item.find("state").get("title"),
                               "accessibilityLabel": lambda item: item.find("accessibility").get("label"),
                               }[kind](items[item])
+            self.assertEqual(found, make_languages.texts_of(table("en"), screen))
+
+    def test_the_layouts_for_the_desktop_hold_it(self):
+        for screen in (GATE, REFUSAL):
+            found = {}
+            for widget in ElementTree.parse(BUNDLE / f"{screen}.ui").getroot().iter("widget"):
+                texts = {each.get("name"): each.findtext("string") for each in widget.findall("property")}
+                if key := texts.get("words"):
+                    heard = key.endswith(".accessibilityLabel")
+                    shown = texts["accessibleName"] if heard else texts.get("text") or texts["html"]
+                    found[key] = html.unescape(re.sub("<[^>]*>", "", shown)) if shown.startswith("<") else shown
             self.assertEqual(found, make_languages.texts_of(table("en"), screen))
 
     def test_it_is_as_it_was(self):
