@@ -117,6 +117,17 @@ TEST_P(ComposersWords, FitOnASmallPhoneWithTextsTwiceAsLarge) {
   EXPECT_LE(area.widget()->width(), area.viewport()->width());
 }
 
+TEST_P(ComposersWords, AreLaidOutInTheirDirection) {
+  open();
+  const bool isReversed = GetParam() == "ar" || GetParam() == "he";
+  const int cancel = find<QPushButton>(*composer_, "cancel").mapToGlobal(QPoint()).x();
+  const int send = find<QPushButton>(*composer_, "send").mapToGlobal(QPoint()).x();
+  EXPECT_EQ(isReversed, send < cancel);
+  const Qt::Alignment start = isReversed ? Qt::AlignRight : Qt::AlignLeft;
+  EXPECT_TRUE(find<QLabel>(*composer_, "title").alignment().testFlags(start | Qt::AlignAbsolute));
+  EXPECT_EQ(QApplication::layoutDirection(), Qt::LeftToRight);
+}
+
 INSTANTIATE_TEST_SUITE_P(All, ComposersWords, testing::ValuesIn(kLanguages), [](const auto& tried) {
   return QString(tried.param).remove('-').toStdString();
 });

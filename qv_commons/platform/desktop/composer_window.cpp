@@ -68,16 +68,6 @@ QLineEdit* makeLineEdit(const QString& name) {
   return edit;
 }
 
-// Its lines begin where all lines do, whatever the direction of its own letters.
-QLabel* makeLabel(const QString& name, const QString& text, const char* role) {
-  auto* label = named(new QLabel(text), name, role);
-  label->setTextFormat(Qt::PlainText);
-  label->setWordWrap(true);
-  const bool isReversed = label->layoutDirection() == Qt::RightToLeft;
-  label->setAlignment(Qt::AlignAbsolute | (isReversed ? Qt::AlignRight : Qt::AlignLeft));
-  return label;
-}
-
 QString sizeText(std::size_t bytes, const QLocale& locale) {
   return locale.formattedDataSize(static_cast<qint64>(bytes), 1, QLocale::DataSizeSIFormat);
 }
@@ -87,6 +77,7 @@ QString sizeText(std::size_t bytes, const QLocale& locale) {
 ComposerWindow::ComposerWindow(Callbacks callbacks, const Words& words)
     : callbacks_(std::move(callbacks)), words_(words) {
   setProperty("role", "page");
+  if (const auto direction = words_.direction()) setLayoutDirection(*direction);
   setWindowTitle(words_("New message"));
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -171,6 +162,17 @@ QWidget* ComposerWindow::makePage() {
   drafts_->hide();
   layout->addWidget(drafts_);
   return page;
+}
+
+// Its lines begin where all lines do, whatever the direction of its own letters.
+QLabel* ComposerWindow::makeLabel(const QString& name, const QString& text,
+                                  const char* role) const {
+  auto* label = named(new QLabel(text), name, role);
+  label->setTextFormat(Qt::PlainText);
+  label->setWordWrap(true);
+  const bool isReversed = layoutDirection() == Qt::RightToLeft;
+  label->setAlignment(Qt::AlignAbsolute | (isReversed ? Qt::AlignRight : Qt::AlignLeft));
+  return label;
 }
 
 void ComposerWindow::addField(QVBoxLayout& page, const QString& caption, QWidget& field,

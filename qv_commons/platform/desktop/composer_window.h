@@ -84,6 +84,7 @@ class ComposerWindow final : public QWidget {
  private:
   QWidget* makeBar();
   QWidget* makePage();
+  QLabel* makeLabel(const QString& name, const QString& text, const char* role) const;
   void addField(QVBoxLayout& page, const QString& caption, QWidget& field, int stretch = 0);
   void addShortcuts();
   void layOutBar();

@@ -28,6 +28,12 @@ QString Words::operator()(const Sentence& sentence) const {
   return fromUtf8(filled(toUtf8((*this)(sentence.english)), sentence));
 }
 
+std::optional<Qt::LayoutDirection> Words::direction() const {
+  if (!isLoaded_) load();
+  if (language_.language() == QLocale::C) return std::nullopt;
+  return language_.textDirection();
+}
+
 QLocale Words::locale() const {
   return settings_.languages.empty() ? QLocale() : QLocale(fromUtf8(settings_.languages.front()));
 }
@@ -35,7 +41,7 @@ QLocale Words::locale() const {
 void Words::load() const {
   isLoaded_ = true;
   linkTranslations();
-  chooseLanguage(preferredLanguages(settings_), [this](const QString& table) {
+  language_ = chooseLanguage(preferredLanguages(settings_), [this](const QString& table) {
     return translator_.load(":/qv_commons/translations/" + table + ".qm");
   });
 }

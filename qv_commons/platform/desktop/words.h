@@ -8,6 +8,7 @@
 #include <QLocale>
 #include <QString>
 #include <QTranslator>
+#include <optional>
 
 #include "qv_commons/platform/desktop/desktop_platform.h"
 #include "qv_commons/platform/desktop/outcome.h"
@@ -23,6 +24,9 @@ class Words {
   QString operator()(const char* english) const;
   QString operator()(const Sentence& sentence) const;
 
+  // In which they are written, where they are the library's in a language other than English.
+  std::optional<Qt::LayoutDirection> direction() const;
+
   // By which numbers and dates are written: of the host's first language, else Qt's default.
   QLocale locale() const;
 
@@ -31,6 +35,7 @@ class Words {
 
   const DesktopSettings& settings_;
   mutable QTranslator translator_;
+  mutable QLocale language_ = QLocale::c();  // of what is loaded; C: none
   mutable bool isLoaded_ = false;
 };
 
