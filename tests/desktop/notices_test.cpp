@@ -1,4 +1,5 @@
 // What the composer says of a message, in the user's language.
+#include <QClipboard>
 #include <QMenu>
 #include <QTranslator>
 #include <filesystem>
@@ -120,6 +121,18 @@ TEST_F(Notices, TellWhereADraftIs) {
   click(*composer_, "save");
   ASSERT_TRUE(waitForNotice("Gesichert"));
   EXPECT_EQ(noticeText(), "Gesichert in " + folder_.path("data/drafts/" + drafts().front()));
+}
+
+TEST_F(Notices, KeepPathsTogetherAndCopyThemAsTheyAre) {
+  settings_.languages = {"he"};
+  open();
+  click(*composer_, "save");
+  ASSERT_TRUE(waitForNotice("נשמר"));
+  const std::string path = folder_.path("data/drafts/" + drafts().front());
+  EXPECT_EQ(noticeText(), "נשמר אל \u2068" + path + "\u2069");  // one thing, in its own direction
+  notice().selectAll();
+  notice().copy();
+  EXPECT_EQ(QApplication::clipboard()->text().toStdString(), "נשמר אל " + path);
 }
 
 TEST_F(Notices, TellWhyADraftWasNotSavedOrKept) {

@@ -22,6 +22,11 @@ namespace {
 constexpr int kReach = 22;  // half of what a finger hits
 constexpr int kSmallestTextWidth = 120;
 
+QString withoutMarks(QString text) {
+  for (const QChar each : {LinkTextView::kFiller, QChar(0x2068), QChar(0x2069)}) text.remove(each);
+  return text;
+}
+
 int heightOf(const QTextDocument& document) {
   return static_cast<int>(std::ceil(document.size().height()));
 }
@@ -70,13 +75,13 @@ void LinkTextView::readLinks() {
 }
 
 QString LinkTextView::seenText() const {
-  return toPlainText().remove(kFiller);
+  return withoutMarks(toPlainText());
 }
 
 // Plain: the targets of the links mean nothing elsewhere.
 QMimeData* LinkTextView::createMimeDataFromSelection() const {
   auto copied = std::make_unique<QMimeData>();
-  copied->setText(textCursor().selection().toPlainText().remove(kFiller));
+  copied->setText(withoutMarks(textCursor().selection().toPlainText()));
   return copied.release();
 }
 

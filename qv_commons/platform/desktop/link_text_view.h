@@ -25,7 +25,7 @@ class LinkTextView final : public QTextBrowser {
   // What fills a link's words up to the link's range.
   static constexpr QChar kFiller = QChar(kLinkFiller);
 
-  // The text without fillers, as it is seen, heard and copied.
+  // The text without fillers and without marks of direction, as it is heard and copied.
   QString seenText() const;
 
   struct Link {

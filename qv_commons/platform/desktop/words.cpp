@@ -25,7 +25,12 @@ QString Words::operator()(const char* english) const {
 }
 
 QString Words::operator()(const Sentence& sentence) const {
-  return fromUtf8(filled(toUtf8((*this)(sentence.english)), sentence));
+  const std::string text = toUtf8((*this)(sentence.english));
+  if (direction() != Qt::RightToLeft) return fromUtf8(filled(text, sentence));
+  // Or the first slash of a path would be seen at its end.
+  Sentence isolated = sentence;
+  for (std::string& each : isolated.arguments) each = "\u2068" + each + "\u2069";
+  return fromUtf8(filled(text, isolated));
 }
 
 std::optional<Qt::LayoutDirection> Words::direction() const {
