@@ -1,11 +1,13 @@
 #include "qv_commons/age_gate/policy_links.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "qv_commons/age_gate/age_gate_color_theme.h"
+#include "qv_commons/app_info/joined_text.h"
 #include "qv_commons/platform/application.h"
 #include "qv_commons/platform/fatal_error.h"
 #include "qv_commons/platform/views.h"
@@ -18,11 +20,12 @@ namespace {
 void applyLinks(TextView& textView, const std::vector<TextLink>& links,
                 const QV_AgeGateColorTheme& theme, std::string_view caller) {
   const std::optional<std::size_t> length = textView.textLength();
-  if (!length) fatalError(std::string(caller).append(": the text view has no attributed text"));
+  if (!length) fatalError(joinedText({caller, ": the text view has no attributed text"}));
   const std::size_t needed = links.back().range.location + links.back().range.length;
   if (*length < needed) {
-    fatalError(std::string(caller) + ": the text has " + std::to_string(*length) +
-               " UTF-16 units, its links need " + std::to_string(needed));
+    fatalError(joinedText(
+        {caller, ": the text has ", std::to_string(static_cast<std::int64_t>(*length)),
+         " UTF-16 units, its links need ", std::to_string(static_cast<std::int64_t>(needed))}));
   }
   textView.addLinks(links, theme.policiesTextColor);
   // After the links, or the layout's own colours would stay.
@@ -33,14 +36,16 @@ void applyLinks(TextView& textView, const std::vector<TextLink>& links,
 
 void applyPolicyLinks(TextView& textView, std::string_view privacyLink,
                       std::string_view termsOfServiceLink, const QV_AgeGateColorTheme& theme) {
-  applyLinks(textView,
-             {{std::string(privacyLink), kPrivacyLinkRange},
-              {std::string(termsOfServiceLink), kTermsOfServiceLinkRange}},
-             theme, "applyPolicyLinks");
+  std::vector<TextLink> links(2);
+  links[0] = {std::string(privacyLink), kPrivacyLinkRange};
+  links[1] = {std::string(termsOfServiceLink), kTermsOfServiceLinkRange};
+  applyLinks(textView, links, theme, "applyPolicyLinks");
 }
 
 void applyContactLink(TextView& textView, const QV_AgeGateColorTheme& theme) {
-  applyLinks(textView, {{std::string(kContactLink), kContactLinkRange}}, theme, "applyContactLink");
+  std::vector<TextLink> links(1);
+  links[0] = {std::string(kContactLink), kContactLinkRange};
+  applyLinks(textView, links, theme, "applyContactLink");
 }
 
 void interactWithLink(TextView& textView, TextViewDelegate* delegate, std::string_view value,

@@ -1,5 +1,6 @@
 #include "qv_commons/app_info/app_info_helper.h"
 
+#include "qv_commons/app_info/joined_text.h"
 #include "qv_commons/platform/bundle.h"
 #include "qv_commons/platform/platform.h"
 
@@ -7,18 +8,18 @@ namespace qv_commons {
 namespace {
 
 std::string textForKey(const Bundle& bundle, std::string_view key) {
-  return bundle.textForInfoDictionaryKey(key).value_or("");
+  return bundle.textForInfoDictionaryKey(key).value_or(std::string());
 }
 
 }  // namespace
 
 std::string appVersionOf(const Bundle& bundle) {
-  const std::string version = textForKey(bundle, "CFBundleShortVersionString");
-  return version + "(" + textForKey(bundle, "CFBundleVersion") + ")";
+  return joinedText({textForKey(bundle, "CFBundleShortVersionString"), "(",
+                     textForKey(bundle, "CFBundleVersion"), ")"});
 }
 
 std::string appIdOf(const Bundle& bundle) {
-  return bundle.bundleIdentifier().value_or("");
+  return bundle.bundleIdentifier().value_or(std::string());
 }
 
 std::string appNameOf(const Bundle& bundle) {

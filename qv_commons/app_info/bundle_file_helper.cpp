@@ -1,5 +1,6 @@
 #include "qv_commons/app_info/bundle_file_helper.h"
 
+#include "qv_commons/app_info/joined_text.h"
 #include "qv_commons/app_info/utf8.h"
 #include "qv_commons/platform/application.h"
 #include "qv_commons/platform/bundle.h"
@@ -24,9 +25,8 @@ std::optional<std::string> QV_BundleFileHelper::loadJsonFromBundle(std::string_v
   if (!location) return std::nullopt;
   FileContents file = platform.bundles.read(*location);
   if (file.bytes && isUtf8(*file.bytes)) return std::move(file.bytes);
-  platform.application.print(std::string("QV_BundleFileHelper - Error!! Unable to parse  ")
-                                 .append(filename)
-                                 .append(".json"));
+  platform.application.print(
+      joinedText({"QV_BundleFileHelper - Error!! Unable to parse  ", filename, ".json"}));
   return std::nullopt;
 }
 

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "qv_commons/app_info/app_info_helper.h"
+#include "qv_commons/app_info/joined_text.h"
 #include "qv_commons/platform/application.h"
 #include "qv_commons/platform/device.h"
 #include "qv_commons/platform/platform.h"
@@ -21,7 +22,7 @@ void presentCannotSendAlert(ViewControllers& viewControllers, ViewController& vi
 
 std::string preferredLanguageOf(const Device& device) {
   const std::vector<std::string> languages = device.preferredLanguages();
-  return languages.empty() ? "" : languages.front();
+  return languages.empty() ? std::string() : languages.front();
 }
 
 // The texts live until the body is made.
@@ -41,21 +42,26 @@ std::string composeBody(const Platform& platform, const std::vector<std::string>
                           .additionalMetadata = additionalMetadata});
 }
 
+struct Receipt {
+  std::optional<FileLocation> location;
+  std::optional<MailAttachment> attachment;  // std::nullopt if it can't be read
+  std::string error;                         // why not
+};
+
 // A receipt may be large: it is read and encoded where that holds nobody up.
 void attachReceipt(const Platform& platform, MailComposer& composer) {
-  const std::optional<FileLocation> location = platform.bundles.mainBundle().appStoreReceiptURL();
-  if (!location) return;
-  const auto receipt = std::make_shared<FileContents>();
-  const auto attachment = std::make_shared<MailAttachment>();
+  const auto receipt = std::make_shared<Receipt>();
+  receipt->location = platform.bundles.mainBundle().appStoreReceiptURL();
+  if (!receipt->location) return;
   composer.prepare(
-      [=, &bundles = platform.bundles] {
-        *receipt = bundles.read(*location);
-        if (receipt->bytes) *attachment = supportMailAttachment(*receipt->bytes);
-        if (receipt->bytes) receipt->bytes.emplace();  // it may be large
+      [receipt, &bundles = platform.bundles] {
+        FileContents file = bundles.read(*receipt->location);
+        receipt->error = std::move(file.errorDescription);
+        if (file.bytes) receipt->attachment = supportMailAttachment(*file.bytes);
       },
-      [=, &application = platform.application, &composer] {
-        if (receipt->bytes) return composer.addAttachment(std::move(*attachment));
-        application.print("error converting receipt to Data: " + receipt->errorDescription);
+      [receipt, &application = platform.application, &composer] {
+        if (receipt->attachment) return composer.addAttachment(*std::move(receipt->attachment));
+        application.print(joinedText({"error converting receipt to Data: ", receipt->error}));
       });
 }
 
@@ -83,7 +89,7 @@ void QV_SupportHelper::contactSupport(ViewController& viewController, const std:
   }
   delegate_ = std::move(delegate);
   std::shared_ptr<MailComposer> composer = platform.viewControllers.makeMailComposer();
-  composer->setToRecipients({email});
+  composer->setToRecipients(std::vector<std::string>(1, email));
   composer->setSubject(subject);
   composer->setMailComposeDelegate(weak_from_this());
   composer->setMessageBody(composeBody(platform, purchases, openingMessage, additionalMetadata),

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <limits>
 
+#include "qv_commons/app_info/joined_text.h"
 #include "qv_commons/platform/fatal_error.h"
 #include "qv_commons/time/time_helper.h"
 #include "qv_commons/time/white_space.h"
@@ -96,7 +97,8 @@ char* writeTwoDigits(char* out, int value) {
   char* out = text.data();
   if (seconds / 3600 != 0) {
     // As many of the count's low bits as there is room for.
-    out = std::to_chars(out, out + text.size(), static_cast<std::int32_t>(seconds / 3600)).ptr;
+    const std::int64_t hours = static_cast<std::int32_t>(seconds / 3600);
+    out = std::to_chars(out, out + text.size(), hours).ptr;
     *out++ = ':';
   }
   out = writeTwoDigits(out, static_cast<int>(seconds / 60 % 60));
@@ -157,7 +159,7 @@ bool readUnusualText(std::string_view text, std::int64_t& seconds) {
 [[gnu::noinline]] std::int64_t readUnusualTextOrStop(std::string_view text) {
   std::int64_t seconds = 0;
   if (readUnusualText(text, seconds)) return seconds;
-  fatalError("QV_TimeHelper: hmsToSeconds can't read \"" + std::string(text) + "\"");
+  fatalError(joinedText({"QV_TimeHelper: hmsToSeconds can't read \"", text, "\""}));
 }
 
 }  // namespace
