@@ -3,9 +3,8 @@
 #include <optional>
 #include <utility>
 
+#include "qv_commons/age_gate/app_name_placeholder.h"
 #include "qv_commons/age_gate/policy_links.h"
-#include "qv_commons/age_gate/refused_screen.h"
-#include "qv_commons/age_gate/screen_parts.h"
 #include "qv_commons/app_info/app_info_helper.h"
 #include "qv_commons/platform/bundle.h"
 #include "qv_commons/platform/fatal_error.h"
@@ -13,43 +12,33 @@
 #include "qv_commons/platform/views.h"
 
 namespace qv_commons {
-namespace {
-
-void nameTheApp(Label& header, const Bundle& mainBundle) {
-  const std::optional<std::string> text = header.text();
-  if (!text) fatalError("QV_AgeGateRefusedViewController: the header has no text");
-  header.setText(fillInAppName(*text, appNameOf(mainBundle)));
-}
-
-}  // namespace
 
 std::shared_ptr<QV_AgeGateRefusedViewController> QV_AgeGateRefusedViewController::create(
     const Platform& platform) {
-  return makeScreen<QV_AgeGateRefusedViewController>(platform);
+  return fromLayout<QV_AgeGateRefusedViewController>(platform);
 }
 
 QV_AgeGateRefusedViewController::QV_AgeGateRefusedViewController(
     std::unique_ptr<ViewController> native, const Platform& platform)
-    : LayoutScreen(std::move(native)), colorTheme(defaultThemeOf(platform)), platform_(platform) {}
+    : AgeGateScreen(kClassName, std::move(native), platform) {}
 
 std::vector<Outlet> QV_AgeGateRefusedViewController::outlets() {
   return {{"bg", bg}, {"contact", contact}, {"tos", tos}, {"header", header}};
 }
 
 void QV_AgeGateRefusedViewController::viewDidLoad() {
-  const auto panel = connected(*this, bg, "bg");
-  panel->setBackgroundColor(colorTheme->backgroundColor);
-  roundCorners(*panel);
+  setUpPanel();
+  setUpPolicyLinks();
 
-  applyPolicyLinks(*connected(*this, tos, "tos"), privacyLink, termsOfServiceLink, *colorTheme);
+  TextView& contactText = connected(contact, "contact");
+  applyContactLink(contactText, *colorTheme);
+  contactText.setDelegate(this);
 
-  const auto contactText = connected(*this, contact, "contact");
-  applyContactLink(*contactText, *colorTheme);
-  contactText->setDelegate(this);
-
-  const auto heading = connected(*this, header, "header");
-  heading->setTextColor(colorTheme->textColor);
-  nameTheApp(*heading, platform_.bundles.mainBundle());
+  Label& heading = connected(header, "header");
+  heading.setTextColor(colorTheme->textColor);
+  const std::optional<std::string> text = heading.text();
+  if (!text) fatalError("QV_AgeGateRefusedViewController: the header has no text");
+  heading.setText(fillInAppName(*text, appNameOf(platform_.bundles.mainBundle())));
 }
 
 bool QV_AgeGateRefusedViewController::shouldInteractWithURL(TextView&, std::string_view url,

@@ -11,21 +11,16 @@
 #pragma once
 
 #include <memory>
-#include <string>
 #include <string_view>
 #include <vector>
 
-#include "qv_commons/age_gate/age_gate_color_theme.h"
-#include "qv_commons/age_gate/contact_us_handler.h"
+#include "qv_commons/age_gate/age_gate_screen.h"
 #include "qv_commons/export.h"
-#include "qv_commons/platform/layout_screen.h"
 #include "qv_commons/platform/text_view_delegate.h"
 
 namespace qv_commons {
 
-class Label;
-
-class QV_COMMONS_EXPORT QV_AgeGateRefusedViewController final : public LayoutScreen,
+class QV_COMMONS_EXPORT QV_AgeGateRefusedViewController final : public AgeGateScreen,
                                                                 public TextViewDelegate {
  public:
   // Also the name of its layout.
@@ -38,32 +33,19 @@ class QV_COMMONS_EXPORT QV_AgeGateRefusedViewController final : public LayoutScr
   // For adapters: with every field at its default. `native` shows the screen.
   QV_AgeGateRefusedViewController(std::unique_ptr<ViewController> native, const Platform& platform);
 
-  // Connected by the layout.
-  std::weak_ptr<View> bg;           // the panel
-  std::weak_ptr<TextView> contact;  // the text with the contact link
-  std::weak_ptr<TextView> tos;      // the policy text with its two links
-  std::weak_ptr<Label> header;      // its text holds "[APPNAME]"
+  // Connected by the layout: the text with the contact link.
+  std::weak_ptr<TextView> contact;
 
-  // To be set before the screen loads.
-  std::string privacyLink;
-  std::string termsOfServiceLink;
-  std::shared_ptr<QV_AgeGateColorTheme> colorTheme;  // at first `defaultTheme()`
-  ContactUsHandler contactUsHandler;
-
-  std::string_view headingOutlet() const override { return "header"; }
   std::vector<Outlet> outlets() override;
   std::vector<Action> actions() override { return {}; }
 
-  // Dresses the views. An outlet that is not connected, a header without a text, and texts that
-  // don't fit the links are fatal errors.
+  // Dresses the views, and puts the app's name for "[APPNAME]" in the header. An outlet that is not
+  // connected, a header without a text, and texts that don't fit the links are fatal errors.
   void viewDidLoad() override;
 
   // A chosen link that contains "mailto" goes to `contactUsHandler`, if there is one. The answer is
   // always no: the system takes no action of its own.
   bool shouldInteractWithURL(TextView& textView, std::string_view url, TextRange range) override;
-
- private:
-  const Platform& platform_;
 };
 
 }  // namespace qv_commons

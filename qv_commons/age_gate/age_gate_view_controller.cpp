@@ -3,11 +3,10 @@
 #include <utility>
 
 #include "qv_commons/age_gate/age_gate_decision.h"
+#include "qv_commons/age_gate/age_gate_refused_view_controller.h"
 #include "qv_commons/age_gate/birth_date.h"
-#include "qv_commons/age_gate/policy_links.h"
-#include "qv_commons/age_gate/refused_screen.h"
-#include "qv_commons/age_gate/screen_parts.h"
 #include "qv_commons/platform/clock.h"
+#include "qv_commons/platform/device.h"
 #include "qv_commons/platform/platform.h"
 #include "qv_commons/platform/user_defaults.h"
 #include "qv_commons/platform/views.h"
@@ -16,12 +15,12 @@ namespace qv_commons {
 
 std::shared_ptr<QV_AgeGateViewController> QV_AgeGateViewController::create(
     const Platform& platform) {
-  return makeScreen<QV_AgeGateViewController>(platform);
+  return fromLayout<QV_AgeGateViewController>(platform);
 }
 
 QV_AgeGateViewController::QV_AgeGateViewController(std::unique_ptr<ViewController> native,
                                                    const Platform& platform)
-    : LayoutScreen(std::move(native)), colorTheme(defaultThemeOf(platform)), platform_(platform) {}
+    : AgeGateScreen(kClassName, std::move(native), platform) {}
 
 std::vector<Outlet> QV_AgeGateViewController::outlets() {
   return {{"bg", bg},   {"confirmBtn", confirmBtn}, {"datePicker", datePicker},
@@ -34,34 +33,32 @@ std::vector<Action> QV_AgeGateViewController::actions() {
 }
 
 void QV_AgeGateViewController::viewDidLoad() {
-  const auto panel = connected(*this, bg, "bg");
-  panel->setBackgroundColor(colorTheme->backgroundColor);
-  roundCorners(*panel);
-  connected(*this, header, "header")->setTextColor(colorTheme->textColor);
-  connected(*this, subtitle, "subtitle")->setTextColor(colorTheme->textColor);
+  setUpPanel();
+  connected(header, "header").setTextColor(colorTheme->textColor);
+  connected(subtitle, "subtitle").setTextColor(colorTheme->textColor);
   setUpConfirmButton();
-  applyPolicyLinks(*connected(*this, tos, "tos"), privacyLink, termsOfServiceLink, *colorTheme);
+  setUpPolicyLinks();
   setUpDatePicker();
 }
 
 void QV_AgeGateViewController::setUpConfirmButton() {
-  const auto button = connected(*this, confirmBtn, "confirmBtn");
-  roundCorners(*button);
-  button->setEnabled(false);
-  button->setTitleColor(colorTheme->policiesTextColor, ControlState::disabled);
-  button->setTitleColor(colorTheme->buttonTextColor, ControlState::normal);
-  button->setBackgroundColor(colorTheme->buttonBGColor);
+  Button& button = connected(confirmBtn, "confirmBtn");
+  roundCorners(button);
+  button.setEnabled(false);
+  button.setTitleColor(colorTheme->policiesTextColor, ControlState::disabled);
+  button.setTitleColor(colorTheme->buttonTextColor, ControlState::normal);
+  button.setBackgroundColor(colorTheme->buttonBGColor);
 }
 
 void QV_AgeGateViewController::setUpDatePicker() {
   const Instant now = platform_.clock.now();
-  const auto picker = connected(*this, datePicker, "datePicker");
-  picker->setMaximumDate(platform_.calendar.dateByAddingYears(now, 1));
-  picker->setDate(now);
+  DatePicker& picker = connected(datePicker, "datePicker");
+  picker.setMaximumDate(platform_.calendar.dateByAddingYears(now, 1));
+  picker.setDate(now);
 }
 
 void QV_AgeGateViewController::onDateChanged() {
-  connected(*this, confirmBtn, "confirmBtn")->setEnabled(true);
+  connected(confirmBtn, "confirmBtn").setEnabled(true);
 }
 
 void QV_AgeGateViewController::onConfirmPressed() {
@@ -70,7 +67,7 @@ void QV_AgeGateViewController::onConfirmPressed() {
   const std::shared_ptr<ViewController> self = retained();
   dismissViewController(true, nullptr);
   platform_.userDefaults.setBool(true, kAgeGateShownKey);
-  const BirthDate birth = {connected(*this, datePicker, "datePicker")->date()};
+  const BirthDate birth = {connected(datePicker, "datePicker").date()};
   const Instant now = platform_.clock.now();
   if (judgeBirthDate(birth, now, platform_.calendar, minimumAgerequired) ==
       AgeGateVerdict::refused) {
@@ -84,9 +81,13 @@ void QV_AgeGateViewController::onConfirmPressed() {
 void QV_AgeGateViewController::refuse() {
   platform_.userDefaults.setBool(true, kAgeGateBlockedKey);
   platform_.userDefaults.commit();  // both flags or neither
-  auto refusal =
-      makeRefusedScreen(platform_, {contactUsHandler, privacyLink, termsOfServiceLink, colorTheme},
-                        RefusedScreenLook::pinned);
+  auto refusal = QV_AgeGateRefusedViewController::create(platform_);
+  if (platform_.device.isSystemVersionAtLeast(13)) {
+    refusal->setModalInPresentation(true);
+    // It keeps the look of this moment; at a later start the refusal follows the system.
+    refusal->setOverrideUserInterfaceStyle(platform_.device.userInterfaceStyle());
+  }
+  refusal->setContent(contactUsHandler, privacyLink, termsOfServiceLink, colorTheme);
   if (viewController) viewController->presentViewController(std::move(refusal), true, nullptr);
 }
 

@@ -13,23 +13,18 @@
 
 #include <cstdint>
 #include <memory>
-#include <string>
 #include <string_view>
 #include <vector>
 
-#include "qv_commons/age_gate/age_gate_color_theme.h"
-#include "qv_commons/age_gate/contact_us_handler.h"
+#include "qv_commons/age_gate/age_gate_screen.h"
 #include "qv_commons/export.h"
-#include "qv_commons/platform/layout_screen.h"
 
 namespace qv_commons {
 
 class Button;
 class DatePicker;
-class Label;
-class TextView;
 
-class QV_COMMONS_EXPORT QV_AgeGateViewController final : public LayoutScreen {
+class QV_COMMONS_EXPORT QV_AgeGateViewController final : public AgeGateScreen {
  public:
   // Also the name of its layout.
   static constexpr std::string_view kClassName = "QV_AgeGateViewController";
@@ -42,23 +37,15 @@ class QV_COMMONS_EXPORT QV_AgeGateViewController final : public LayoutScreen {
   QV_AgeGateViewController(std::unique_ptr<ViewController> native, const Platform& platform);
 
   // Connected by the layout.
-  std::weak_ptr<View> bg;  // the panel
   std::weak_ptr<Button> confirmBtn;
   std::weak_ptr<DatePicker> datePicker;
-  std::weak_ptr<TextView> tos;  // the policy text with its two links
-  std::weak_ptr<Label> header;
   std::weak_ptr<Label> subtitle;
 
   // To be set before the screen loads.
-  std::string privacyLink;
-  std::string termsOfServiceLink;
   std::shared_ptr<ViewController> viewController;  // the host's, which presents the refusal
   std::int64_t minimumAgerequired = 16;
-  std::shared_ptr<QV_AgeGateColorTheme> colorTheme;  // at first `defaultTheme()`
-  Completion completionHandler;                      // for a user who is old enough
-  ContactUsHandler contactUsHandler;                 // handed on to the refusal
+  Completion completionHandler;  // for a user who is old enough
 
-  std::string_view headingOutlet() const override { return "header"; }
   std::vector<Outlet> outlets() override;
   std::vector<Action> actions() override;
 
@@ -81,7 +68,6 @@ class QV_COMMONS_EXPORT QV_AgeGateViewController final : public LayoutScreen {
   void setUpDatePicker();
   void refuse();
 
-  const Platform& platform_;
   bool isConfirmed_ = false;
 };
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "qv_commons/age_gate/refused_screen.h"
+#include "qv_commons/age_gate/app_name_placeholder.h"
 
 namespace qv_commons {
 namespace {
