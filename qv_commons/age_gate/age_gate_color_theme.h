@@ -26,8 +26,9 @@ class QV_COMMONS_EXPORT QV_AgeGateColorTheme {
  public:
   // The order differs from that of the fields: the panel's background comes first, and
   // `buttonBackgroundColor` is kept in `buttonBGColor`.
-  QV_AgeGateColorTheme(Color backgroundColor, Color buttonBackgroundColor, Color buttonTextColor,
-                       Color textColor, Color policiesTextColor);
+  QV_AgeGateColorTheme(const Color& backgroundColor, const Color& buttonBackgroundColor,
+                       const Color& buttonTextColor, const Color& textColor,
+                       const Color& policiesTextColor);
   QV_AgeGateColorTheme(const QV_AgeGateColorTheme&) = delete;
   QV_AgeGateColorTheme& operator=(const QV_AgeGateColorTheme&) = delete;
 
