@@ -7,6 +7,9 @@
 #include <cstddef>
 #include <cstdio>
 #include <cstdlib>
+#include <string_view>
+
+#include "qv_commons/app_info/joined_text.h"
 
 namespace qv_commons {
 namespace {
@@ -14,7 +17,7 @@ namespace {
 // Below a million.
 std::string thousandthsText(unsigned thousandths) {
   std::string text("999999.999");
-  char* out = std::to_chars(text.data(), text.data() + text.size(), thousandths / 1000).ptr;
+  char* out = std::to_chars(text.data(), &text.back(), std::uint64_t{thousandths / 1000}).ptr;
   *out++ = '.';
   unsigned fraction = thousandths % 1000;
   do {
@@ -64,13 +67,13 @@ Decimal shortestDecimal(double magnitude) {
 }
 
 std::string positional(Decimal decimal) {
-  std::string text = std::to_string(decimal.digits);
-  if (decimal.exponent >= 0) {
-    return text.append(static_cast<std::size_t>(decimal.exponent), '0').append(".0");
-  }
-  const auto fraction = static_cast<std::size_t>(-decimal.exponent);
-  if (text.size() <= fraction) text.insert(0, fraction + 1 - text.size(), '0');
-  return text.insert(text.size() - fraction, 1, '.');
+  const std::string digits = std::to_string(decimal.digits);
+  const auto zeros = [](int count) { return std::string(static_cast<std::size_t>(count), '0'); };
+  if (decimal.exponent >= 0) return joinedText({digits, zeros(decimal.exponent), ".0"});
+  const int whole = static_cast<int>(digits.size()) + decimal.exponent;
+  if (whole <= 0) return joinedText({"0.", zeros(-whole), digits});
+  const std::string_view start(digits.data(), static_cast<std::size_t>(whole));
+  return joinedText({start, ".", digits.data() + whole});
 }
 
 std::string magnitudeText(double magnitude) {
@@ -89,9 +92,8 @@ std::string magnitudeText(double magnitude) {
 }  // namespace
 
 std::string decimalText(double value) {
-  std::string text = magnitudeText(std::abs(value));
-  if (std::signbit(value) && !std::isnan(value)) text.insert(0, 1, '-');
-  return text;
+  const bool isNegative = std::signbit(value) && !std::isnan(value);
+  return isNegative ? joinedText({"-", magnitudeText(-value)}) : magnitudeText(value);
 }
 
 }  // namespace qv_commons
