@@ -32,34 +32,31 @@ inline char* write(char* out, std::string_view text) {
   return out + size;
 }
 
-// Calls `take` with the pieces of the body, one after the other.
-template <class Take>
-void forEachPiece(const SupportMailInputs& inputs, std::string_view width, std::string_view height,
-                  Take take) {
-  take(inputs.openingMessage.value_or("Reason for contacting support:"));
-  take("\n\n\n\n\n\n\n\n\nApp ID: "), take(inputs.appId);
-  take("\nDevice: "), take(inputs.localizedModel), take(" os:  "), take(inputs.systemVersion);
-  take(" size: "), take(width), take("x"), take(height);
-  take(" locale: "), take(inputs.preferredLanguage);
-  take("\nApp version: "), take(inputs.appVersion);
-  take("\nIAP: "), take(inputs.purchases.empty() ? "No " : "Yes ");
-  for (const std::string& purchase : inputs.purchases) {
-    if (&purchase != inputs.purchases.data()) take(", ");
-    take(purchase);
-  }
-  take("\n"), take(inputs.additionalMetadata.value_or(""));
-}
-
 }  // namespace
 
 std::string supportMailBody(const SupportMailInputs& inputs) {
+  const std::string_view opening = inputs.openingMessage.value_or("Reason for contacting support:");
+  const std::string_view metadata = inputs.additionalMetadata.value_or("");
   const std::string width = decimalText(inputs.screenSize.width);
   const std::string height = decimalText(inputs.screenSize.height);
+  const auto forEachPiece = [&](auto take) {
+    take(opening), take("\n\n\n\n\n\n\n\n\nApp ID: "), take(inputs.appId);
+    take("\nDevice: "), take(inputs.localizedModel), take(" os:  "), take(inputs.systemVersion);
+    take(" size: "), take(width), take("x"), take(height);
+    take(" locale: "), take(inputs.preferredLanguage);
+    take("\nApp version: "), take(inputs.appVersion);
+    take(inputs.purchases.empty() ? "\nIAP: No " : "\nIAP: Yes ");
+    for (const std::string& purchase : inputs.purchases) {
+      if (&purchase != inputs.purchases.data()) take(", ");
+      take(purchase);
+    }
+    take("\n"), take(metadata);
+  };
   std::size_t size = 0;
-  forEachPiece(inputs, width, height, [&](std::string_view piece) { size += piece.size(); });
+  forEachPiece([&](std::string_view piece) { size += piece.size(); });
   std::string body(size, '\0');
   char* out = body.data();
-  forEachPiece(inputs, width, height, [&](std::string_view piece) { out = write(out, piece); });
+  forEachPiece([&](std::string_view piece) { out = write(out, piece); });
   return body;
 }
 
