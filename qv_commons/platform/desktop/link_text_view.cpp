@@ -23,7 +23,8 @@ constexpr int kReach = 22;  // half of what a finger hits
 constexpr int kSmallestTextWidth = 120;
 
 QString withoutMarks(QString text) {
-  for (const QChar each : {LinkTextView::kFiller, QChar(0x2068), QChar(0x2069)}) text.remove(each);
+  using View = LinkTextView;
+  for (const QChar mark : {View::kFiller, View::kIsolate, View::kEndOfIsolate}) text.remove(mark);
   return text;
 }
 

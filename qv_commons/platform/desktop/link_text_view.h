@@ -25,6 +25,10 @@ class LinkTextView final : public QTextBrowser {
   // What fills a link's words up to the link's range.
   static constexpr QChar kFiller = QChar(kLinkFiller);
 
+  // What stands between these runs in its own direction, apart from the text around it.
+  static constexpr QChar kIsolate = QChar(0x2068);
+  static constexpr QChar kEndOfIsolate = QChar(0x2069);
+
   // The text without fillers and without marks of direction, as it is heard and copied.
   QString seenText() const;
 

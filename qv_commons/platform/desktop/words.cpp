@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 
 #include "qv_commons/platform/desktop/desktop_system.h"
+#include "qv_commons/platform/desktop/link_text_view.h"
 #include "qv_commons/platform/desktop/qt_text.h"
 #include "qv_commons/platform/desktop/screen_words.h"
 
@@ -29,7 +30,9 @@ QString Words::operator()(const Sentence& sentence) const {
   if (direction() != Qt::RightToLeft) return fromUtf8(filled(text, sentence));
   // Or the first slash of a path would be seen at its end.
   Sentence isolated = sentence;
-  for (std::string& each : isolated.arguments) each = "\u2068" + each + "\u2069";
+  for (std::string& each : isolated.arguments) {
+    each = toUtf8(LinkTextView::kIsolate + fromUtf8(each) + LinkTextView::kEndOfIsolate);
+  }
   return fromUtf8(filled(text, isolated));
 }
 
