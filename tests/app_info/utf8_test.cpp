@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 #include <string>
+#include <sys/mman.h>
+#include <unistd.h>
 
 namespace qv_commons {
 namespace {
@@ -109,13 +111,22 @@ TEST(Utf8, RefusesTruncatedCharacters) {
   EXPECT_FALSE(isUtf8("\xE2\x82\xC3"));
 }
 
+// The text lies at the end of what may be read at all.
 TEST(Utf8, ReadsNothingBehindTheEnd) {
+  const auto page = static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
+  void* const pages =
+      ::mmap(nullptr, 2 * page, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+  ASSERT_NE(pages, MAP_FAILED);
+  char* const end = static_cast<char*>(pages) + page;
+  ASSERT_EQ(::mprotect(end, page, PROT_NONE), 0);
   for (const std::string_view whole : {"\xC3\xA9"sv, "\xE2\x82\xAC"sv, "\xF0\x9F\x91\x8D"sv}) {
-    for (std::size_t length = 1; length < whole.size(); ++length) {
-      EXPECT_FALSE(isUtf8(whole.substr(0, length))) << length;
+    for (std::size_t length = 1; length <= whole.size(); ++length) {
+      const std::string_view text(end - length, length);
+      whole.copy(end - length, length);
+      EXPECT_EQ(isUtf8(text), length == whole.size()) << length;
     }
-    EXPECT_TRUE(isUtf8(whole));
   }
+  EXPECT_EQ(::munmap(pages, 2 * page), 0);
 }
 
 TEST(Utf8, RefusesAContinuationByItself) {

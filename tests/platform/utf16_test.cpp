@@ -16,7 +16,7 @@ TEST(Utf16, CountsOneUnitUpToU_FFFFAndTwoAbove) {
 }
 
 TEST(Utf16, ComesBackAsItWas) {
-  const std::string_view text = "a é e\u0301 \u07FF \u0800 \uFFFD 👍 \U0010FFFF";
+  const std::string_view text = "a \x7F \u0080 é e\u0301 \u07FF \u0800 \uFFFD 👍 \U0010FFFF";
   EXPECT_EQ(utf8Of(utf16Of(text)), text);
 }
 
@@ -36,6 +36,11 @@ TEST(Utf16, KnowsTheEndsOfBothHalves) {
   EXPECT_EQ(utf8Of(u"\xD800\xE000"), "\uFFFD\uE000");
   EXPECT_EQ(utf8Of(u"\xD800\xDBFF"), "\uFFFD\uFFFD");
   EXPECT_EQ(utf8Of(u"\xDC00\xDFFF"), "\uFFFD\uFFFD");
+}
+
+TEST(Utf16, ReadsNothingBehindACharacterThatBreaksOff) {
+  EXPECT_EQ(utf16Of(std::string_view("a\xC3\xA9", 2)).size(), 2U);
+  EXPECT_EQ(utf16Of(std::string_view("a\xE2\x82\xAC", 3)).size(), 2U);
 }
 
 }  // namespace

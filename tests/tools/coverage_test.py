@@ -29,10 +29,33 @@ class Judgement(unittest.TestCase):
             self.assertEqual(uses, {entry: set(lines)})
             self.assertEqual(tallies["core"].percents()[0], 100)
 
-    def test_reads_the_counts_of_every_program(self):
-        records = [f"SF:{FILE}", "DA:1,0", "BRDA:1,0,0,-", "end_of_record", f"SF:{FILE}", "DA:1,7", "BRDA:1,0,0,2",
-                   "SF:/usr/include/string", "DA:1,1"]
-        self.assertEqual(coverage.counts_of(records), {FILE: ({1: 7}, {(1, "0.0"): 2})})
+    def test_reads_the_counts_under_every_name_of_a_file(self):
+        def told(name, runs, branches):
+            return {"filename": str(name), "branches": branches,
+                    "segments": [[1, 1, runs, True, True, False], [2, 2, 0, False, False, False]]}
+        files = [told(FILE, 0, [[1, 5, 1, 9, 0, 2, 0, 0, 4]]),
+                 told(FILE.parent / "../support" / FILE.name, 7, [[1, 5, 1, 9, 3, 0, 0, 0, 4]]),
+                 told("/usr/include/string", 1, [])]
+        self.assertEqual(coverage.counts_of(files), {
+            FILE: ({1: 7, 2: 7}, {(1, 5, 1, 9, True): 3, (1, 5, 1, 9, False): 2})})
+
+    def test_takes_the_branch_of_a_template_once(self):
+        made_twice = [[3, 5, 3, 9, 4, 0, 0, 0, 4], [3, 5, 3, 9, 0, 6, 0, 0, 4], [3, 13, 3, 17, 1, 0, 0, 0, 4]]
+        (_, branches), = coverage.counts_of([{"filename": str(FILE), "segments": [],
+                                              "branches": made_twice}]).values()
+        self.assertEqual(branches, {(3, 5, 3, 9, True): 4, (3, 5, 3, 9, False): 6,
+                                    (3, 13, 3, 17, True): 1, (3, 13, 3, 17, False): 0})
+
+    def test_counts_lines_as_reports_do(self):
+        segments = [[2, 10, 3, True, True, False],    # a function from line 2
+                    [3, 9, 0, True, True, False],     # in whose line 3 a block never ran
+                    [3, 20, 3, True, False, False],
+                    [4, 1, 0, False, True, False],    # left out by the preprocessor
+                    [6, 1, 3, True, False, False],
+                    [7, 1, 0, True, True, True],      # a gap between statements
+                    [8, 2, 0, False, False, False]]
+        self.assertEqual(coverage.lines_of(segments), {2: 3, 3: 3, 7: 3, 8: 0})
+        self.assertEqual(coverage.lines_of([]), {})
 
 
 if __name__ == "__main__":
