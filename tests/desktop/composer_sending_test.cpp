@@ -126,6 +126,23 @@ TEST_F(ComposerSending, SaysWithWhichCodeTheProgramFailed) {
   expectFailure("The mail program failed with code 3.");
 }
 
+TEST_F(ComposerSending, SaysWhatEveryCodeOfMailProgramsMeans) {
+  open();
+  const std::string cannotBeReached =
+      "The mail server can't be reached at the moment. Please try again later.";
+  const std::vector<std::pair<int, std::string>> meanings = {
+      {67, "The mail server refused the address or the message."},
+      {68, cannotBeReached},
+      {77, "You are not allowed to send mail."},
+      {69, cannotBeReached}};
+  for (const auto& [code, meaning] : meanings) {
+    useMailProgram("exit " + std::to_string(code));
+    click(*composer_, "send");
+    EXPECT_TRUE(waitForNotice("Not sent. " + meaning + "\n")) << code << noticeText();
+  }
+  EXPECT_TRUE(isOpen());
+}
+
 TEST_F(ComposerSending, ShortensALongComplaint) {
   useMailProgram("head -c 5000 /dev/zero | tr '\\0' 'x' >&2; echo end >&2; exit 3");
   expectFailure("The mail program failed with code 3. (…" + std::string(297, 'x') + "end)");

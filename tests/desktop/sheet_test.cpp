@@ -102,6 +102,49 @@ TEST_F(SheetTest, KeepsThePointerFromTheHost) {
   EXPECT_TRUE(sheet.isAncestorOf(QApplication::focusWidget()));
 }
 
+// Touches, drags and questions about a widget come in events of their own kinds.
+TEST_F(SheetTest, KeepsEveryOtherWayToReachForTheHostFromIt) {
+  std::vector<QEvent::Type> reached;
+  class Watch final : public QObject {
+   public:
+    Watch(std::vector<QEvent::Type>& types, QObject& watched) : types_(types) {
+      watched.installEventFilter(this);
+    }
+    bool eventFilter(QObject*, QEvent* event) override {
+      types_.push_back(event->type());
+      return true;
+    }
+
+   private:
+    std::vector<QEvent::Type>& types_;
+  } const watch(reached, *host_.button);
+  const QMimeData data;
+  const QPointF place(1, 1);
+  const QPoint global = host_.button->mapToGlobal(QPoint(1, 1));
+  const QPointingDevice* device = QPointingDevice::primaryPointingDevice();
+  const auto use = [&] {
+    const auto send = [&](QEvent&& event) { QCoreApplication::sendEvent(host_.button, &event); };
+    reached.clear();
+    send(QHelpEvent(QEvent::WhatsThis, place.toPoint(), global));
+    send(QHelpEvent(QEvent::QueryWhatsThis, place.toPoint(), global));
+    send(QStatusTipEvent("tip"));
+    for (const QEvent::Type type :
+         {QEvent::TabletMove, QEvent::TabletPress, QEvent::TabletRelease}) {
+      send(QTabletEvent(type, device, place, global, 1, 0, 0, 0, 0, 0, {}, Qt::LeftButton,
+                        Qt::LeftButton));
+    }
+    send(QNativeGestureEvent(Qt::ZoomNativeGesture, device, 2, place, place, global, 1, {}));
+    send(QDragMoveEvent(place.toPoint(), Qt::CopyAction, &data, Qt::LeftButton, {}));
+    send(QDropEvent(place, Qt::CopyAction, &data, Qt::LeftButton, {}));
+    return reached.size();
+  };
+  EXPECT_GE(use(), 7U);
+  Sheet& sheet = show();
+  EXPECT_EQ(use(), 0U);
+  sheet.dismiss();
+  EXPECT_GE(use(), 7U);
+}
+
 TEST_F(SheetTest, KeepsTheHostsFloatingPartsFromTheUser) {
   QDockWidget dock("Tools", &host_);
   auto* tool = new QPushButton("&Tool");

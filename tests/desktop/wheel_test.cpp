@@ -166,6 +166,27 @@ TEST_F(WheelTest, TurnsToTheRowThatIsTapped) {
   EXPECT_EQ(changes_.count(), 1);
 }
 
+TEST_F(WheelTest, TakesALittleDragForATap) {
+  const QPoint from =
+      middleOf(DateField::day) + QPoint(0, Wheel::rowHeightFor(wheel(DateField::day).font()));
+  QTest::mousePress(picker_.windowHandle(), Qt::LeftButton, {}, from);
+  QTest::mouseMove(picker_.windowHandle(), from + QPoint(0, 2));
+  QTest::mouseRelease(picker_.windowHandle(), Qt::LeftButton, {}, from + QPoint(0, 2));
+  EXPECT_THAT(texts(), ElementsAre("November", "21", "2026"));
+}
+
+TEST_F(WheelTest, IsNotTurnedByOtherButtonsOrByPassingOver) {
+  QWindow* window = picker_.windowHandle();
+  const QPoint below = middleOf(DateField::day) + QPoint(0, 40);
+  QTest::mouseMove(window, below);
+  QTest::mouseClick(window, Qt::RightButton, {}, below);
+  QTest::mousePress(window, Qt::LeftButton, {}, below);
+  QTest::mouseRelease(window, Qt::RightButton, {}, below);
+  EXPECT_EQ(changes_.count(), 0);
+  QTest::mouseRelease(window, Qt::LeftButton, {}, below);
+  EXPECT_EQ(changes_.count(), 1);
+}
+
 TEST_F(WheelTest, HoldsTheMaximumHoweverFarItIsTurned) {
   drag(DateField::year, -2000);
   EXPECT_EQ(picker_.date(), at("2027-11-20T15:30:00Z"));
