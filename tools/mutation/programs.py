@@ -14,8 +14,9 @@ import time
 SLOW = ("routes.", "examples.", "bench.", "desktop.faults", "desktop.age_gate_kill", "desktop.delivery",
         "desktop.xvfb", "desktop.sheet_", "desktop.age_gate_", "desktop.read_aloud", "desktop.fractional",
         "fuzz.", "uikit.ios_host")
-PATIENCE = 8  # times what a program takes of itself, and
+PATIENCE = 8  # times what a run takes of itself, and
 MOMENT = 5    # seconds
+QUICK = 0.05  # seconds of a case that runs before the slower ones
 
 
 @dataclasses.dataclass
@@ -25,7 +26,8 @@ class Program:
     runs: list          # commands
     environment: dict
     is_of_googletest: bool = False
-    seconds: float = 0
+    seconds: list = dataclasses.field(default_factory=list)  # of each run
+    members: set = dataclasses.field(default_factory=set)    # objects and members of archives
 
 
 class Build:
@@ -75,16 +77,26 @@ class Build:
         name = self.object_of(source)
         is_desktops = "desktop" in source.parts
         holder = self.output("ninja", "-t", "query", name).split("outputs:")[1].split()[0]
+        member = f"{holder}({pathlib.Path(name).name})"
         found = []
         for program in self.known.values():
             if not program.link:
                 program.link = self.link_command(program)
             if not is_desktops and any("commons_desktop" in a for a in program.link):
                 continue
-            if name in program.link or holder in program.link:
+            if (name in program.link or holder in program.link) and self.members_of(program) & {name, member}:
                 self.measure(program)
                 found.append(program)
-        return sorted(found, key=lambda p: (source.parent.name not in p.path.parts, p.seconds))
+        return sorted(found, key=lambda p: (source.parent.name not in p.path.parts, sum(p.seconds)))
+
+    def members_of(self, program):
+        """What the linker takes into the program, as it tells it."""
+        if not program.members:
+            with tempfile.TemporaryDirectory() as folder:
+                command = [*program.link, "-fuse-ld=lld", "-Wl,--trace"]
+                command[command.index("-o") + 1] = str(pathlib.Path(folder) / "program")
+                program.members = set(self.output(*command).splitlines())
+        return program.members
 
     def link_command(self, program):
         target = str(program.path.relative_to(self.folder))
@@ -96,12 +108,15 @@ class Build:
         return parts[0] if parts else ["none"]
 
     def measure(self, program):
-        if not program.seconds:
+        if program.seconds:
+            return
+        program.runs = [run for command in program.runs for run in slow_cases_last(program, command)]
+        for command in program.runs:
             start = time.monotonic()
-            passed, said = run_all(program, program.path, 600)
+            passed, said = run(program, command, program.path, 600)
             if not passed:
                 raise SystemExit(f"mutate: {program.path} fails without any change:\n{said[-2000:]}")
-            program.seconds = time.monotonic() - start
+            program.seconds.append(time.monotonic() - start)
 
     def linked(self, program, source, mutated, folder):
         """The program with the mutated object in it, in a copy of the folder that it lies in; None where
@@ -130,30 +145,67 @@ class Build:
             path = self.linked(program, source, mutated, folder)
             if path is None:
                 return True
-            return not run_all(program, path, program.seconds * PATIENCE + MOMENT)[0]
+            return not all(run(program, command, path, seconds * PATIENCE + MOMENT)[0]
+                           for command, seconds in zip(program.runs, program.seconds))
 
 
-def run_all(program, path, limit):
-    """Whether all of the program's runs pass, made with the file at `path`, and what the last said."""
-    said = ""
-    for command in program.runs:
-        with tempfile.TemporaryDirectory() as home:
-            environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen", **program.environment,
-                           "HOME": home, "TMPDIR": home, "XDG_RUNTIME_DIR": home}
-            process = subprocess.Popen([str(path) if a == str(program.path) else a for a in command],
-                                       env=environment, cwd=home, stdin=subprocess.DEVNULL, text=True,
-                                       stdout=subprocess.PIPE, stderr=subprocess.STDOUT, errors="replace",
-                                       start_new_session=True)
-            try:
-                said = process.communicate(timeout=limit)[0]
-            except subprocess.TimeoutExpired:
-                process.returncode = -1
-            finally:
-                try:
-                    os.killpg(process.pid, signal.SIGKILL)
-                except ProcessLookupError:
-                    pass
-                process.wait()
-            if process.returncode != 0:
-                return False, said
-    return True, said
+def slow_cases_last(program, command):
+    """The command as one run of the quick cases and one of the others, if it runs all of GoogleTest's."""
+    if not program.is_of_googletest or command != [str(program.path), "--gtest_fail_fast"]:
+        return [command]
+    with tempfile.TemporaryDirectory() as folder:
+        report = pathlib.Path(folder) / "report.json"
+        run(program, [*command, f"--gtest_output=json:{report}"], program.path, 600)
+        if not report.is_file():
+            return [command]
+        slow = [f"{case['classname']}.{case['name']}" for suite in json.loads(report.read_text())["testsuites"]
+                for case in suite["testsuite"] if float(case["time"].rstrip("s")) > QUICK]
+    if not slow:
+        return [command]
+    return [[*command, "--gtest_filter=-" + ":".join(slow)], [*command, "--gtest_filter=" + ":".join(slow)]]
+
+
+RUNNING = set()  # the homes of the runs
+
+
+def end_all_of(home):
+    """Ends whatever has been started with that home, in whichever group and session it is."""
+    mark = f"HOME={home}".encode()
+    for process in pathlib.Path("/proc").glob("[0-9]*"):
+        try:
+            if mark in (process / "environ").read_bytes().split(b"\0"):
+                os.kill(int(process.name), signal.SIGKILL)
+        except OSError:
+            pass  # gone meanwhile, or somebody else's
+
+
+def end_with_all(*_):
+    """Ends this process and all that its runs have started: what to do at a signal."""
+    for home in list(RUNNING):
+        end_all_of(home)
+    os._exit(1)
+
+
+def run(program, command, path, limit):
+    """Whether the program's command passes within so many seconds, made with the file at `path`, and what
+    it said."""
+    with tempfile.TemporaryDirectory() as home:
+        RUNNING.add(home)
+        environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen", **program.environment,
+                       "HOME": home, "TMPDIR": home, "XDG_RUNTIME_DIR": home}
+        process = subprocess.Popen([str(path) if a == str(program.path) else a for a in command],
+                                   env=environment, cwd=home, stdin=subprocess.DEVNULL, text=True,
+                                   stdout=subprocess.PIPE, stderr=subprocess.STDOUT, errors="replace",
+                                   start_new_session=True)
+        passed, said = False, ""
+        try:
+            said = process.communicate(timeout=limit)[0]
+            passed = process.returncode == 0
+        except subprocess.TimeoutExpired:
+            pass
+        finally:
+            end_all_of(home)
+            process.stdout.close()
+            process.wait()
+            RUNNING.discard(home)
+        return passed, said
