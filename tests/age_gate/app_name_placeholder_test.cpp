@@ -1,6 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "qv_commons/age_gate/app_name_placeholder.h"
+
+#include <gtest/gtest.h>
 
 namespace qv_commons {
 namespace {

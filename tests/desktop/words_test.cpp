@@ -3,9 +3,12 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFontMetricsF>
 #include <QLabel>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScrollArea>
+#include <QTextDocument>
 #include <QTranslator>
 #include <QXmlStreamReader>
 #include <map>
@@ -115,6 +118,25 @@ TEST_P(ComposersWords, FitOnASmallPhoneWithTextsTwiceAsLarge) {
   }
   const auto& area = *window.findChild<QScrollArea*>();
   EXPECT_LE(area.widget()->width(), area.viewport()->width());
+}
+
+// A notice breaks what is too long for a line: paths, and no word of the sentences.
+TEST_P(ComposersWords, AreNotBrokenInANotice) {
+  const QString language = GetParam();
+  const bool hasBlanks = language != "ja" && !language.startsWith("zh");
+  host_.resize(320, 568);
+  open("");
+  click(*composer_, "send");
+  ASSERT_TRUE(notice().isVisible());
+  const QFontMetricsF metrics(notice().document()->defaultFont());
+  EXPECT_GE(metrics.height(), 20);  // twice as large
+  const QRegularExpression between(hasBlanks ? "[\\s/]" : "");
+  for (const auto& [english, translated] : sourceOf(language)) {
+    for (const QString& word : translated.split(between)) {
+      EXPECT_LE(metrics.horizontalAdvance(word), notice().viewport()->width())
+          << word.toStdString();
+    }
+  }
 }
 
 TEST_P(ComposersWords, AreLaidOutInTheirDirection) {
