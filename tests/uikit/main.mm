@@ -62,6 +62,7 @@ int main(int argc, char** argv) {
   testing::UnitTest::GetInstance()->listeners().Append(new Pools);
   @autoreleasepool {
     [NSTimeZone setDefaultTimeZone:[NSTimeZone timeZoneForSecondsFromGMT:0]];
+    [NSUserDefaults setUserLanguages:@[ @"en" ]];
     return RUN_ALL_TESTS();
   }
 }
