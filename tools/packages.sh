@@ -6,7 +6,7 @@ desktop_packages=(qt6-base-dev qt6-tools-dev libqt6opengl6-dev libgmime-3.0-dev 
 tour_packages=(msmtp python3-aiosmtpd)
 test_packages=(git clang clang-format clang-tidy llvm libclang-rt-dev libgtest-dev
   libgmock-dev libssl-dev locales tzdata xvfb dbus-daemon dpkg-dev file doxygen strace openbox xdotool
-  weston qt6-wayland at-spi2-core python3-pyatspi
+  weston qt6-wayland at-spi2-core python3-pyatspi faketime
   fonts-dejavu-core fonts-lohit-deva fonts-wqy-microhei)
 bench_packages=(libbenchmark-dev libfmt-dev libabsl-dev libssl-dev libglib2.0-dev libboost-dev)
 ios_packages=(clang libgnustep-base-dev clang-19 libc++-19-dev lld-19 musl-dev python3-clang

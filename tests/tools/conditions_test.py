@@ -2,6 +2,7 @@
 import contextlib
 import io
 import os
+import pathlib
 import sys
 import unittest
 from unittest import mock
@@ -27,8 +28,21 @@ class Conditions(unittest.TestCase):
         self.assertIn("no such condition: midnight", outcome("midnight"))
 
     def test_what_is_missing_is_named(self):
-        with mock.patch.dict(os.environ, {"PATH": "/nowhere"}):
-            self.assertIn("package faketime", outcome("year-2038"))
+        with mock.patch.object(conditions.shutil, "which", return_value=None):
+            self.assertIn("year-2038 is left out: faketime is not here (package faketime)", outcome("year-2038"))
+
+    @unittest.skipUnless(os.getuid() == 0, "only root can become another user")
+    def test_a_folder_of_roots_is_named(self):
+        with mock.patch.object(conditions, "ROOT", pathlib.Path("/proc/1/root/qv_commons")):
+            self.assertIn("an ordinary user can't reach /proc/1/root/qv_commons", outcome("ordinary-user"))
+
+    def test_one_is_drawn_of_those_that_can_be(self):
+        said = io.StringIO()
+        with mock.patch.object(conditions, "lacking", lambda name: "" if name == "tr_TR" else "not here"), \
+                mock.patch.object(conditions.programs, "Build", lambda folder: mock.Mock(known={})), \
+                contextlib.redirect_stdout(said):
+            outcome("--one", "--seed", "1")
+        self.assertIn("tr_TR: 2 times over, seed 1", said.getvalue())
 
     def test_a_date_stands_before_the_command(self):
         before, changed = conditions.made("leap-day", "/home")
