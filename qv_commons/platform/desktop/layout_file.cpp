@@ -12,6 +12,7 @@
 
 #include "qv_commons/platform/desktop/qt_text.h"
 #include "qv_commons/platform/desktop/scrolled_column.h"
+#include "qv_commons/platform/desktop/text_label.h"
 #include "qv_commons/platform/desktop/thin_scroll_bar.h"
 #include "qv_commons/platform/fatal_error.h"
 
@@ -55,6 +56,7 @@ class ScreenLoader final : public QUiLoader {
     if (className == "WheelDatePicker") return new WheelDatePicker(calendar_, parent);
     if (className == "ScrolledColumn") return new ScrolledColumn(parent);
     if (className == "ScreenButton") return new ScreenButton(parent);
+    if (className == "QLabel") return new TextLabel(parent);
     if (className == "LinkTextView") return new LinkTextView(parent);
     return nullptr;
   }
