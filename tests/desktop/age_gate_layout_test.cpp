@@ -56,6 +56,16 @@ TEST_F(AgeGateLayoutTest, HasTextsThatFitTheLinksToTheCharacter) {
   EXPECT_EQ(contact.mid(38, 22), "contact us for support");
 }
 
+// From then on each change of a text lays out all of them.
+TEST_F(AgeGateLayoutTest, IsMeasuredOnceItIsWhole) {
+  const auto path = QV_BundleFileHelper::getQVCommonsResourceBundle()->URLForResource(
+      "QV_AgeGateViewController", "ui");
+  const IcuCalendar calendar;
+  const auto loaded = loadLayout(path.value_or(""), {}, calendar, textScale());
+  EXPECT_FALSE(loaded->findChild<QScrollArea*>()->widgetResizable());
+  EXPECT_TRUE(showGate().findChild<QScrollArea*>()->widgetResizable());
+}
+
 void expectNoMinimumAge(QWidget& screen) {
   for (const QLabel* label : screen.findChildren<QLabel*>()) {
     EXPECT_FALSE(label->accessibleName().contains("16")) << label->accessibleName().toStdString();

@@ -1,6 +1,7 @@
 #include "qv_commons/platform/desktop/layout_controller.h"
 
 #include <QLabel>
+#include <QScrollArea>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -65,6 +66,9 @@ void LayoutController::load() {
   views_ = connectScreen(*root, *screen_, open, words.layout,
                          [this](Completion action) { later(std::move(action)); });
   screen_->viewDidLoad();
+  // Not before: at each change from here on an area asks for sizes, for which all texts are laid
+  // out.
+  for (QScrollArea* area : root->findChildren<QScrollArea*>()) area->setWidgetResizable(true);
   const QString heading = fromUtf8(screen_->headingOutlet());
   if (const auto* header = root->findChild<QLabel*>(heading)) {
     content().setWindowTitle(header->accessibleName());
