@@ -49,6 +49,13 @@ class Conditions(unittest.TestCase):
         self.assertEqual(before, ["faketime", "-f", "@2028-02-29 23:59:50"])
         self.assertEqual((changed["TZ"], changed["HOME"]), ("Europe/Berlin", "/home"))
 
+    def test_a_failure_is_told_whatever_ran_after_it(self):
+        failure = "a_test.cpp:1: Failure\nExpected: one\n[  FAILED  ] A.Fails (1 ms)"
+        told = conditions.told_of(failure + "\nskipped" * 1000)
+        self.assertIn("Expected: one", told)
+        self.assertLess(len(told), 1000)
+        self.assertEqual(conditions.told_of("Segmentation fault"), "Segmentation fault")
+
     def test_home_is_taken_away(self):
         self.assertEqual(conditions.made("without-home", "/home")[1]["HOME"], None)
 
