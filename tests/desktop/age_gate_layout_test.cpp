@@ -61,7 +61,7 @@ TEST_F(AgeGateLayoutTest, IsMeasuredOnceItIsWhole) {
   const auto path = QV_BundleFileHelper::getQVCommonsResourceBundle()->URLForResource(
       "QV_AgeGateViewController", "ui");
   const IcuCalendar calendar;
-  const auto loaded = loadLayout(path.value_or(""), {}, calendar, textScale());
+  const auto loaded = loadLayout({.layout = path.value_or("")}, calendar, textScale());
   EXPECT_FALSE(loaded->findChild<QScrollArea*>()->widgetResizable());
   EXPECT_TRUE(showGate().findChild<QScrollArea*>()->widgetResizable());
 }
