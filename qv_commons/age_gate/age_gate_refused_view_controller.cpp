@@ -26,6 +26,10 @@ std::vector<Outlet> QV_AgeGateRefusedViewController::outlets() {
   return {{"bg", bg}, {"contact", contact}, {"tos", tos}, {"header", header}};
 }
 
+std::vector<Action> QV_AgeGateRefusedViewController::actions() {
+  return {};
+}
+
 void QV_AgeGateRefusedViewController::viewDidLoad() {
   setUpPanel();
   setUpPolicyLinks();

@@ -37,7 +37,7 @@ class QV_COMMONS_EXPORT QV_AgeGateRefusedViewController final : public AgeGateSc
   std::weak_ptr<TextView> contact;
 
   std::vector<Outlet> outlets() override;
-  std::vector<Action> actions() override { return {}; }
+  std::vector<Action> actions() override;
 
   // Dresses the views, and puts the app's name for "[APPNAME]" in the header. An outlet that is not
   // connected, a header without a text, and texts that don't fit the links are fatal errors.

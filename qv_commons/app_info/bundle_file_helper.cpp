@@ -9,8 +9,7 @@
 namespace qv_commons {
 
 std::shared_ptr<Bundle> resourceBundleOf(const Bundles& bundles) {
-  const std::optional<FileLocation> location =
-      bundles.libraryBundle().URLForResource("QV_Commons_iOS", "bundle");
+  const auto location = bundles.libraryBundle().URLForResource("QV_Commons_iOS", "bundle");
   return location ? bundles.bundleWithURL(*location) : nullptr;
 }
 
@@ -20,8 +19,7 @@ std::shared_ptr<Bundle> QV_BundleFileHelper::getQVCommonsResourceBundle() {
 
 std::optional<std::string> QV_BundleFileHelper::loadJsonFromBundle(std::string_view filename) {
   const Platform& platform = currentPlatform();
-  const std::optional<FileLocation> location =
-      platform.bundles.mainBundle().URLForResource(filename, "json");
+  const auto location = platform.bundles.mainBundle().URLForResource(filename, "json");
   if (!location) return std::nullopt;
   FileContents file = platform.bundles.read(*location);
   if (file.bytes && isUtf8(*file.bytes)) return std::move(file.bytes);

@@ -98,12 +98,14 @@ void QV_SupportHelper::contactSupport(ViewController& viewController, const std:
   viewController.presentViewController(std::move(composer), true, nullptr);
 }
 
+std::shared_ptr<QV_SupportHelperDelegate> QV_SupportHelper::delegate() const {
+  return delegate_.lock();
+}
+
 void QV_SupportHelper::mailComposeController(MailComposer& controller, MailComposeResult,
                                              const std::string&) {
   controller.dismissViewController(true, [self = shared_from_this()] {
-    if (const std::shared_ptr<QV_SupportHelperDelegate> delegate = self->delegate()) {
-      delegate->onCompletion();
-    }
+    if (const auto delegate = self->delegate()) delegate->onCompletion();
     self->delegate_.reset();
   });
 }

@@ -64,7 +64,7 @@ class QV_COMMONS_EXPORT QV_SupportHelper final
                              const std::string& error) override;
 
   // The object to call when the current composition ends; null if there is none or it has expired.
-  std::shared_ptr<QV_SupportHelperDelegate> delegate() const { return delegate_.lock(); }
+  std::shared_ptr<QV_SupportHelperDelegate> delegate() const;
 
  private:
   QV_SupportHelper() = default;

@@ -15,18 +15,14 @@ std::int64_t truncated(double value) {
   return static_cast<std::int64_t>(value);
 }
 
-double secondsNow() {
-  return secondsSince1970(currentPlatform().clock.now());
-}
-
 }  // namespace
 
 std::int64_t QV_TimeHelper::currentTimeInMilliseconds() {
-  return truncated(secondsNow() * 1000.0);
+  return truncated(secondsSince1970(currentPlatform().clock.now()) * 1000.0);
 }
 
 PlatformInteger QV_TimeHelper::currentTimeInSeconds() {
-  return truncated(secondsNow());
+  return truncated(secondsSince1970(currentPlatform().clock.now()));
 }
 
 std::int64_t QV_TimeHelper::secondsToMinutes(std::int64_t seconds, bool roundUp) {
