@@ -66,6 +66,7 @@ Sheet& Sheet::show(QWidget* window, std::shared_ptr<QWidget> content, Form form)
   } else {
     sheet->hadFocusBefore_ = window->focusWidget() != nullptr;
     sheet->focusBefore_ = window->focusWidget();
+    SheetGuard::instance().takeMenusIn(*window);
     sheet->setParent(window, Qt::SubWindow);  // Tab stays in a sub-window
     if (hasNativeChild(*window)) sheet->winId();
     sheet->fit();
@@ -121,6 +122,7 @@ void Sheet::dismiss() {
   QWidget* window = parentWidget();
   Sheet* upper = window == nullptr ? nullptr : SheetGuard::instance().above(*this);
   SheetGuard::instance().remove(*this);
+  if (window != nullptr) SheetGuard::instance().giveMenusBack(*window);
   if (window != nullptr) forgetCovered(*window);
   if (upper != nullptr) {
     upper->focusBefore_ = focusBefore_;

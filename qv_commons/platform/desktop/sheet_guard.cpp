@@ -59,6 +59,17 @@ void trigger(QObject& shortcut) {
   }
 }
 
+// Qt makes the global menu bar anew, and tells it neither the entries nor the window by itself.
+void makeGlobal(QMenuBar& menus) {
+  menus.setNativeMenuBar(true);
+  menus.hide();
+  const QList<QAction*> entries = menus.actions();
+  for (QAction* entry : entries) menus.removeAction(entry);
+  menus.addActions(entries);
+  QEvent inItsWindow(QEvent::ParentChange);
+  QCoreApplication::sendEvent(&menus, &inItsWindow);
+}
+
 }  // namespace
 
 SheetGuard& SheetGuard::instance() {
@@ -83,6 +94,23 @@ void SheetGuard::remove(Sheet& sheet) {
   if (std::erase(sheets_, &sheet) == 0 || !sheets_.empty()) return;
   qApp->removeEventFilter(this);
   disconnect(qApp, nullptr, this, nullptr);
+}
+
+void SheetGuard::takeMenusIn(const QWidget& window) {
+  for (QMenuBar* menus : window.findChildren<QMenuBar*>()) {
+    if (!menus->isNativeMenuBar()) continue;
+    menus->setNativeMenuBar(false);
+    menusTakenIn_.emplace_back(menus);
+  }
+}
+
+void SheetGuard::giveMenusBack(const QWidget& window) {
+  if (topOf(window) != nullptr) return;
+  std::erase_if(menusTakenIn_, [&window](const QPointer<QMenuBar>& menus) {
+    if (menus != nullptr && !window.isAncestorOf(menus)) return false;
+    if (menus != nullptr) makeGlobal(*menus);
+    return true;
+  });
 }
 
 Sheet* SheetGuard::above(const Sheet& sheet) const {

@@ -2,6 +2,7 @@
 // while a sheet is up.
 #pragma once
 
+#include <QMenuBar>
 #include <QObject>
 #include <QPointer>
 #include <vector>
@@ -19,6 +20,11 @@ class SheetGuard final : public QObject {
 
   void add(Sheet& sheet);
   void remove(Sheet& sheet);
+
+  // A desktop's global menu bar shows a window's menus where no sheet covers them: they are in the
+  // window for as long as it has sheets.
+  void takeMenusIn(const QWidget& window);
+  void giveMenusBack(const QWidget& window);
 
   // In the same window.
   Sheet* above(const Sheet& sheet) const;
@@ -41,6 +47,7 @@ class SheetGuard final : public QObject {
   void setKeyboardInUse(bool isInUse);
 
   std::vector<Sheet*> sheets_;  // the last one on top
+  std::vector<QPointer<QMenuBar>> menusTakenIn_;
   QPointer<QObject> ownShortcut_;
   bool isEndingPress_ = false;
   bool isKeyboardInUse_ = false;
