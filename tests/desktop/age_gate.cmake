@@ -17,7 +17,7 @@ qv_add_screen_test(user_defaults_test SOURCES user_defaults_test.cpp watched_sql
                    LIBRARIES SQLite::SQLite3)
 qv_add_screen_test(calendar_test SOURCES calendar_fields_test.cpp calendar_test.cpp
                    THREADS calendar_test.cpp)
-qv_add_screen_test(wheel_test SOURCES wheel_test.cpp link_text_view_test.cpp)
+qv_add_screen_test(wheel_test SOURCES wheel_test.cpp link_text_view_test.cpp widget_views_test.cpp)
 qv_add_screen_test(age_gate_test
   SOURCES age_gate_fixture.cpp
           age_gate_layout_test.cpp

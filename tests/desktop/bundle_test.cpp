@@ -129,6 +129,16 @@ TEST(PropertyList, SkipsWhatIsNoTextInBinary) {
   }
 }
 
+TEST(PropertyList, IsNoneWhereItNamesMoreThanThereIsInBinary) {
+  using namespace std::string_literals;
+  for (const std::string& value :
+       {"\x5f\x10\xc8"s /* bytes */, "\x6f\x10\x64"s /* units */,
+        "\x5f\x14"s /* a size of 16 bytes */, "\x5f\x51"s /* a text for a size */}) {
+    EXPECT_FALSE(parseInfoTexts(binaryList({"\xd1\x01\x02", "\x51k", value})));
+  }
+  EXPECT_FALSE(parseInfoTexts(binaryList({"\xdf\x10\xf0"})));  // entries
+}
+
 TEST(PropertyList, OfAnyBytesNeverEndsTheHost) {
   using namespace std::string_literals;
   std::string nested;
@@ -161,6 +171,7 @@ TEST_F(BundleFolders, TakeNumbersForNoTexts) {
 }
 
 TEST_F(BundleFolders, HaveNoTextsWhereTheFileIsDamaged) {
+  EXPECT_FALSE(parseInfoTexts(plist("<string>a value without a key</string>")));
   const std::string good = plist("<key>CFBundleVersion</key><string>317</string>");
   for (const std::string& bad :
        {std::string(), std::string("hello"), std::string("bplist00"),

@@ -74,6 +74,14 @@ TEST_F(ComposerDrafts, CanBeOpenedAgainAndSent) {
   EXPECT_THAT(onlyDraft(), HasSubstr("\nSubject: Second\n"));
 }
 
+TEST_F(ComposerDrafts, AreListedWithoutASubject) {
+  saveOne("support@example.com", "", "one");
+  open();
+  ASSERT_TRUE(waitUntil([&] { return actionFor("(no subject)") != nullptr; }));
+  actionFor("(no subject)")->trigger();
+  EXPECT_TRUE(waitUntil([&] { return body() == "one"; }));
+}
+
 TEST_F(ComposerDrafts, StayWhereTheUserCancels) {
   saveOne("support@example.com", "First", "one");
   useMailProgram("exit 75");

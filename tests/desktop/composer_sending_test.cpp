@@ -347,6 +347,26 @@ TEST_F(ComposerSending, KeepsTheEndOfAFloodOfComplaints) {
   EXPECT_LT(after.ru_maxrss - before.ru_maxrss, 10'000);  // kilobytes
 }
 
+TEST_F(ComposerSending, AsksBeforeAChangedHeadIsLost) {
+  for (const char* field : {"to", "subject"}) {
+    open();
+    click(*composer_, field);
+    press(*composer_, Qt::Key_X);
+    click(*composer_, "cancel");
+    settle();
+    EXPECT_TRUE(isOpen()) << field;
+    ASSERT_NE(composer_->presentedViewController(), nullptr) << field;
+    click(*composer_->presentedViewController(), "action1");  // Discard
+    ASSERT_TRUE(waitUntil([&] { return !isOpen(); }));
+  }
+}
+
+TEST_F(ComposerSending, ShowsEveryRecipient) {
+  open();
+  composer_->setToRecipients({"a@example.com", "b@example.com"});
+  EXPECT_EQ(text("to"), "a@example.com, b@example.com");
+}
+
 TEST_F(ComposerSending, CancelsWithoutATrace) {
   open();
   press(*composer_, Qt::Key_X);

@@ -96,6 +96,8 @@ TEST(MailDrafts, AreListedTheLastOneFirst) {
   folder.write("drafts/2.eml", "Subject: =?UTF-8?B?IEhlbHAg?=\n\n");
   folder.write("drafts/3.eml", "");
   folder.write("drafts/.4.eml.unfinished", "Subject: x\n\n");
+  folder.write("drafts/folder.eml/file", "Subject: x\n\n");
+  ASSERT_EQ(::symlink("nowhere", folder.path("drafts/link.eml").c_str()), 0);
   const timespec times[][2] = {{{100, 0}, {100, 0}}, {{300, 0}, {300, 0}}, {{200, 0}, {200, 0}}};
   for (int i = 0; i < 3; ++i) {
     const std::string path = folder.path("drafts/" + std::to_string(i + 1) + ".eml");

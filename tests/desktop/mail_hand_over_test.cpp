@@ -57,7 +57,12 @@ TEST_F(HandedMails, CarryAsAFileWhatIsNoShortText) {
   const std::string longest(16'666, '\n');
   EXPECT_EQ(handed(messageWith(longest)).body.toStdString(), longest);
   EXPECT_EQ(handed(messageWith(std::string(33'333, '='))).body, QString(33'333, '='));
-  EXPECT_EQ(handed(messageWith(std::string(100'000, 'x'))).body, QString(100'000, 'x'));
+  for (const char plain : {'a', 'z', 'A', 'Z', '0', '9'}) {
+    EXPECT_EQ(handed(messageWith(std::string(100'000, plain))).body, QString(100'000, plain));
+  }
+  for (const char other : {'`', '{', '@', '[', '/', ':'}) {
+    EXPECT_EQ(handed(messageWith(std::string(33'334, other))).files.size(), 2) << other;
+  }
   for (const std::string& body :
        {longest + "\n", std::string(1'000'000, 'x'), std::string("a\0b", 3), std::string("\xff")}) {
     const HandedMail mail = handed(messageWith(body));
@@ -76,7 +81,7 @@ TEST_F(HandedMails, CarryAsAFileWhatIsNoShortText) {
 TEST_F(HandedMails, LeaveTheirFolderByNoName) {
   for (const auto& [name, file] :
        {std::pair{"../../a.txt", "files/1-1/a.txt"}, std::pair{"..", "files/1-1/attachment"},
-        std::pair{"a/", "files/1-1/attachment"}}) {
+        std::pair{".", "files/1-1/attachment"}, std::pair{"a/", "files/1-1/attachment"}}) {
     MailMessage message = messageWith("");
     message.attachments = {
         std::make_shared<const MailAttachment>(MailAttachment{"x", "text/plain", name})};

@@ -87,6 +87,17 @@ TEST(MailMessage, KeepsBlanksAtLineEndsAndLinesWithDots) {
   EXPECT_THAT(bytesOf(message), HasSubstr("\n\nIAP: No=20\n.\n=46rom x\n=3D3D=\n"));
 }
 
+TEST(MailMessage, KeepsTabsAndEncodesWhatIsNoCharacter) {
+  MailMessage message = plainMessage();
+  message.body = "a\tb\x7F~\n";
+  EXPECT_THAT(bytesOf(message), HasSubstr("\n\na\tb=7F~\n"));
+  message.subject = std::string(60, '\x80');
+  EXPECT_THAT(
+      bytesOf(message),
+      HasSubstr("\nSubject: =?UTF-8?B?gICAgICAgICAgICAgICAgICAgICAgICAgICAgICAgICAgICAgICAgIA=?=\n"
+                " =?UTF-8?B?gICAgICAgICAgICAgICAgICAgA==?=\n"));
+}
+
 TEST(MailMessage, CarriesABodyWithCarriageReturnsAsBase64) {
   MailMessage message = plainMessage();
   message.body = "a\rb\r\nc\n";
@@ -211,6 +222,7 @@ TEST(MailMessage, LeavesASenderThatIsNoAddressToTheMailProgram) {
 TEST(MailMessage, EncodesASubjectThatWouldArriveOtherwise) {
   const std::pair<const char*, const char*> subjects[] = {
       {" Help ", "=?UTF-8?B?IEhlbHAg?="},
+      {"Help ", "=?UTF-8?B?SGVscCA=?="},
       {"=?utf-8?B?SGk=?=", "=?UTF-8?B?PT91dGYtOD9CP1NHaz0/PQ==?="},
       {"=?utf-8?B?DQo=?=", "=?UTF-8?B?PT91dGYtOD9CP0RRbz0/PQ==?="},
       {"a  b", "=?UTF-8?B?YSAgYg==?="},
@@ -292,12 +304,34 @@ TEST(MailAddresses, AreTakenAsTheyStandOrNotAtAll) {
         "käthe@müller.example", "o'neil@example.com"}) {
     EXPECT_TRUE(isAddress(good)) << good;
   }
-  for (const char* bad :
-       {"",           "a",           "@b",          "a@",           "a b@c.d",     "a@b c",
-        "a@b@c",      ".a@b",        "a.@b",        "a..b@c",       "<a@b>",       "a@b;c@d",
-        "a@.b",       "a@b.",        "\"a\"b\"@c",  "\"a@b",        "\"a\\\"@b",   "a@[1.2.3.4]",
-        "a\tb@c",     "a\u200b@b.c", "a@b\u200b.c", "a\u00a0b@c.d", "a@b\u202e.c", "\xff@b.c",
-        "a\ufeff@b.c"}) {
+  for (const char* bad : {"",
+                          "a",
+                          "@b",
+                          "a@",
+                          "a b@c.d",
+                          "a@b c",
+                          "a@b@c",
+                          ".a@b",
+                          "a.@b",
+                          "a..b@c",
+                          "<a@b>",
+                          "a@b;c@d",
+                          "a@.b",
+                          "a@b.",
+                          "\"a\"b\"@c",
+                          "\"a@b",
+                          "\"a\\\"@b",
+                          "a@[1.2.3.4]",
+                          "a\tb@c",
+                          "a\u200b@b.c",
+                          "a@b\u200b.c",
+                          "a\u00a0b@c.d",
+                          "a@b\u202e.c",
+                          "\xff@b.c",
+                          "a\ufeff@b.c",
+                          "a\u00ad@b.c",
+                          "a\x7F@b.c",
+                          "\"a\x7F\"@b.c"}) {
     EXPECT_FALSE(isAddress(bad)) << bad;
   }
 }

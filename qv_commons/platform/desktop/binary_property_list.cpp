@@ -57,7 +57,8 @@ bool BinaryList::readTrailer() {
 
 // Big-endian. std::nullopt beyond the end.
 std::optional<std::uint64_t> BinaryList::number(std::uint64_t place, std::uint64_t width) const {
-  if (width > bytes_.size() || place > bytes_.size() - width) return std::nullopt;
+  if (place > bytes_.size() - width)
+    return std::nullopt;  // the trailer alone is longer than a number
   std::uint64_t number = 0;
   for (const char byte : bytes_.substr(place, width)) {
     number = number << 8 | static_cast<unsigned char>(byte);
@@ -67,11 +68,10 @@ std::optional<std::uint64_t> BinaryList::number(std::uint64_t place, std::uint64
 
 std::optional<Object> BinaryList::object(std::uint64_t index) const {
   if (index >= objectCount_) return std::nullopt;
-  const std::optional<std::uint64_t> place = number(table_ + index * placeWidth_, placeWidth_);
-  if (!place) return std::nullopt;
-  const std::optional<std::uint64_t> marker = number(*place, 1);
+  const std::uint64_t place = *number(table_ + index * placeWidth_, placeWidth_);
+  const std::optional<std::uint64_t> marker = number(place, 1);
   if (!marker) return std::nullopt;
-  Object object{static_cast<std::uint8_t>(*marker >> 4), *marker & 15, *place + 1};
+  Object object{static_cast<std::uint8_t>(*marker >> 4), *marker & 15, place + 1};
   if (object.kind < 4 || object.size != 15) return object;
   // A size of fifteen and more follows as an integer.
   const std::optional<std::uint64_t> wide = number(object.place, 1);
@@ -104,7 +104,7 @@ std::optional<InfoTexts> BinaryList::topDictionary() {
   for (std::uint64_t i = 0; i < top->size; ++i) {
     const auto keyIndex = number(top->place + i * indexWidth_, indexWidth_);
     const auto valueIndex = number(top->place + (top->size + i) * indexWidth_, indexWidth_);
-    if (!keyIndex || !valueIndex) return std::nullopt;
+    if (!valueIndex) return std::nullopt;  // which lies behind the key's
     const std::optional<Object> keyObject = object(*keyIndex);
     const std::optional<std::string> key = keyObject ? text(*keyObject) : std::nullopt;
     const std::optional<Object> value = object(*valueIndex);

@@ -19,8 +19,7 @@ bool isVisible(std::string_view part) {
   if (toUtf8(text) != part) return false;  // not UTF-8
   const QList<uint> characters = text.toUcs4();
   return std::all_of(characters.begin(), characters.end(), [](uint character) {
-    return QChar::isPrint(character) && !QChar::isSpace(character) &&
-           QChar::category(character) != QChar::Other_Format;
+    return QChar::isPrint(character) && !QChar::isSpace(character);
   });
 }
 

@@ -9,7 +9,7 @@ namespace {
 QString unescaped(const QString& written) {
   QString text;
   for (qsizetype i = 0; i < written.size(); ++i) {
-    if (written[i] != '\\' || i + 1 == written.size()) {
+    if (written[i] != '\\') {  // never the last
       text += written[i];
       continue;
     }
