@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cstdint>
 #include <gtest/gtest.h>
 #include <limits>
@@ -251,7 +252,39 @@ TEST(DurationReader, GivesNulloptForUnreadableTexts) {
     EXPECT_EQ(QV_TimeHelper::tryHmsToSeconds(text), std::nullopt) << '"' << text << '"';
   }
   EXPECT_EQ(QV_TimeHelper::tryHmsToSeconds({"1:30\0", 5}), std::nullopt);
+  // One character too long for a clock's text, whose last four would else read as "1:25".
+  EXPECT_EQ(QV_TimeHelper::tryHmsToSeconds({"0abcd\x01\0\x02\x35", 9}), std::nullopt);
   EXPECT_EQ(QV_TimeHelper::tryHmsToSeconds(std::string_view()), std::nullopt);
+}
+
+TEST(DurationText, IsReadByItsColonsWhereverTheyAre) {
+  EXPECT_EQ(QV_TimeHelper::tryHmsToSeconds("12:3:456"), 43836);
+  EXPECT_EQ(QV_TimeHelper::tryHmsToSeconds("1:234:56"), 17696);
+  EXPECT_EQ(QV_TimeHelper::tryHmsToSeconds("123:4:5"), 443045);
+}
+
+// Of up to six characters each, with at most two colons: the fields before the last three count
+// for nothing.
+TEST(DurationText, HasNoControlCharacterForADigit) {
+  constexpr std::string_view kCharacters(
+      "05:\x01\0\x09"
+      "a",
+      7);
+  const auto isControl = [](char c) { return c == '\x01' || c == '\0'; };
+  for (std::size_t size = 4; size <= 6; ++size) {
+    std::size_t texts = 1;
+    for (std::size_t i = 0; i < size; ++i) texts *= kCharacters.size();
+    for (std::size_t number = 0; number < texts; ++number) {
+      std::string text;
+      for (std::size_t rest = number; text.size() < size; rest /= kCharacters.size()) {
+        text += kCharacters[rest % kCharacters.size()];
+      }
+      const bool isUnreadable = std::count(text.begin(), text.end(), ':') <= 2 &&
+                                std::any_of(text.begin(), text.end(), isControl);
+      if (!isUnreadable) continue;
+      ASSERT_EQ(QV_TimeHelper::tryHmsToSeconds(text), std::nullopt) << testing::PrintToString(text);
+    }
+  }
 }
 
 class UnreadableDurationDeathTest : public testing::TestWithParam<std::string> {};
