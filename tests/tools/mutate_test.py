@@ -7,6 +7,7 @@ import sys
 import tempfile
 import time
 import unittest
+from unittest import mock
 
 import tool
 
@@ -38,6 +39,18 @@ class Changes(unittest.TestCase):
 
     def test_leave_comments_templates_and_directives(self):
         self.assertEqual(changed("// a < b\n#if 1\nstd::vector<int> x; /* 7 */\n"), [])
+
+
+class Times(unittest.TestCase):
+    def run_until(self, end):
+        mutate = tool.load("mutate")
+        source = tool.TOOLS.parent / "qv_commons/time/time_helper.cpp"
+        with mock.patch.object(mutate, "verdict", return_value="noticed"):
+            return dict(mutate.run(mock.Mock(), [(source, None)] * 3, end)["core"])
+
+    def test_a_run_ends_in_time(self):
+        self.assertEqual(self.run_until(time.monotonic() - 1), {"left out": 3})
+        self.assertEqual(self.run_until(time.monotonic() + 1000), {"noticed": 3})
 
 
 def runs_of(marker):
