@@ -400,6 +400,10 @@ TEST_F(AgeGateTest, TellsAScreenReaderWhatIsWhere) {
   EXPECT_TRUE(view<QPushButton>(*gate(), "confirmBtn").isEnabled());
   accessible(month)->actionInterface()->doAction(QAccessibleActionInterface::decreaseAction());
   EXPECT_EQ(month.chosenText(), "October");
+  EXPECT_EQ(accessible(month)->text(QAccessible::Description), "");
+  accessible(month)->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+  EXPECT_EQ(month.chosenText(), "October");
+  EXPECT_TRUE(month.hasFocus());
   EXPECT_EQ(accessible(view<WheelDatePicker>(*gate(), "datePicker"))->text(QAccessible::Name),
             "Date of birth");
   EXPECT_EQ(accessible(view<QWidget>(*gate(), "header"))->text(QAccessible::Name),

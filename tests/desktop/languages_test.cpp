@@ -94,6 +94,7 @@ TEST(StringTables, HoldWordsByTheirKeys) {
   EXPECT_EQ(table.words.value("a.text"), QString("A\u2060\n\"é\"\\"));
   EXPECT_EQ(table.words.value("b"), "");
   EXPECT_EQ(parseStringTable("").problem, "");
+  EXPECT_EQ(parseStringTable("\"a\" = \"A\\tB\\'\";").words.value("a"), "A\tB'");
 }
 
 TEST(StringTables, HoldAllBeforeWhatMakesNoSense) {

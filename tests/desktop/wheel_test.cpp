@@ -178,6 +178,9 @@ TEST_F(WheelTest, TakesALittleDragForATap) {
 TEST_F(WheelTest, IsNotTurnedByOtherButtonsOrByPassingOver) {
   QWindow* window = picker_.windowHandle();
   const QPoint below = middleOf(DateField::day) + QPoint(0, 40);
+  QTest::mousePress(window, Qt::RightButton, {}, middleOf(DateField::day));
+  QTest::mouseMove(window, below);
+  QTest::mouseRelease(window, Qt::RightButton, {}, below);
   QTest::mouseMove(window, below);
   QTest::mouseClick(window, Qt::RightButton, {}, below);
   QTest::mousePress(window, Qt::LeftButton, {}, below);
