@@ -159,7 +159,7 @@ void AgeGateTest::confirm() {
   auto& button = view<QWidget>(*gate(), "confirmBtn");
   const bool isAnswered = button.isEnabled();
   click(button);
-  EXPECT_TRUE(!isAnswered || QTest::qWaitFor([this, asking] { return gate() != asking; }));
+  EXPECT_TRUE(!isAnswered || QTest::qWaitFor([asking] { return gate() != asking; }));
 }
 
 std::string AgeGateTest::outcomeOfRestart() {
